@@ -1,0 +1,6 @@
+#include <QApplication>
+
+int main(int anzahl, char** argumente) {
+  QApplication programm(anzahl, argumente);
+  return 0;
+}

@@ -1,0 +1,21 @@
+#pragma once
+#include <stdexcept>
+
+namespace vesk {
+
+/// The kinds of fault that end the handler of a user's event. What was computed before stays.
+enum class Fehlerart { Gleitkomma, Ueberlauf, Index, Typ };
+
+/// Thrown where a calculation or a list access cannot go on; caught at the handler that answered the user
+/// and shown there with its German text (UTF-8).
+class Laufzeitfehler : public std::runtime_error {
+ public:
+  explicit Laufzeitfehler(Fehlerart art);
+  Fehlerart art;
+};
+
+/// `wert` as the single that the record stores. Throws Gleitkomma for a non-finite value and Ueberlauf for a
+/// finite one beyond the range of single.
+float AlsSingle(double wert);
+
+}  // namespace vesk

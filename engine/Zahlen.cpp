@@ -1,0 +1,127 @@
+#include "Zahlen.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "Laufzeitfehler.h"
+
+namespace vesk {
+
+namespace {
+
+bool IstZiffer(char zeichen) {
+  return zeichen >= '0' && zeichen <= '9';
+}
+
+/// Length of the numeric part at the head of `text` (digits, one point, whole exponent); 0 if there is none.
+std::size_t LaengeDerZahl(std::string_view text) {
+  std::size_t i = 0;
+  std::size_t ziffern = 0;
+  bool punkt = false;
+  for (; i < text.size(); ++i) {
+    if (IstZiffer(text[i])) {
+      ++ziffern;
+    } else if (text[i] == '.' && !punkt) {
+      punkt = true;
+    } else {
+      break;
+    }
+  }
+  if (ziffern == 0) return 0;
+  if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
+    std::size_t j = i + 1;
+    if (j < text.size() && (text[j] == '+' || text[j] == '-')) ++j;
+    const std::size_t exponent = j;
+    while (j < text.size() && IstZiffer(text[j])) ++j;
+    if (j > exponent) i = j;
+  }
+  return i;
+}
+
+/// Rounds the decimal text `dezimal` ("123.456", no sign) to `stellen` places, halves away from zero.
+std::string Runden(std::string_view dezimal, int stellen, char trenner) {
+  const std::size_t punkt = std::min(dezimal.find('.'), dezimal.size());
+  std::string ziffern(dezimal.substr(0, punkt));
+  const std::string_view bruch = punkt < dezimal.size() ? dezimal.substr(punkt + 1) : std::string_view();
+  const auto gewollt = static_cast<std::size_t>(stellen);
+  ziffern.append(bruch.substr(0, gewollt));
+  if (bruch.size() < gewollt) ziffern.append(gewollt - bruch.size(), '0');
+
+  if (bruch.size() > gewollt && bruch[gewollt] >= '5') {
+    std::size_t i = ziffern.size();
+    while (i > 0 && ziffern[i - 1] == '9') ziffern[--i] = '0';
+    if (i > 0) {
+      ++ziffern[i - 1];
+    } else {
+      ziffern.insert(ziffern.begin(), '1');
+    }
+  }
+  if (stellen > 0) ziffern.insert(ziffern.end() - stellen, trenner);
+  return ziffern;
+}
+
+template <typename Zahltyp>
+std::string FormatierenAllgemein(Zahltyp wert, int stellen, char trenner) {
+  if (!std::isfinite(wert)) throw Laufzeitfehler(Fehlerart::Gleitkomma);
+  // Longest fixed notation of a double: sign, 309 digits, or "0." and some 340 places.
+  std::array<char, 400> puffer{};
+  const auto ende =
+      std::to_chars(puffer.data(), puffer.data() + puffer.size(), std::abs(wert), std::chars_format::fixed)
+          .ptr;
+  std::string text = Runden({puffer.data(), ende}, stellen, trenner);
+  const bool null = std::none_of(text.begin(), text.end(), [](char z) { return z >= '1' && z <= '9'; });
+  if (std::signbit(wert) && !null) text.insert(text.begin(), '-');
+  return text;
+}
+
+}  // namespace
+
+float Zahl(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+  const bool negativ = !text.empty() && text.front() == '-';
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+  const std::string_view zahl = text.substr(0, LaengeDerZahl(text));
+  if (zahl.empty()) return 0;
+
+  double wert = 0;
+  const auto [ende, fehler] = std::from_chars(zahl.data(), zahl.data() + zahl.size(), wert);
+  if (fehler == std::errc::result_out_of_range) {
+    // from_chars leaves the value alone both beyond the largest and below the smallest double.
+    wert = std::strtod(std::string(zahl).c_str(), nullptr);
+  }
+  const auto single = static_cast<float>(wert);
+  if (!std::isfinite(single)) throw Laufzeitfehler(Fehlerart::Ueberlauf);
+  return negativ ? -single : single;
+}
+
+std::string Formatieren(float wert) {
+  return Formatieren(wert, 2, '.');
+}
+
+std::string Formatieren(float wert, int stellen, char trenner) {
+  return FormatierenAllgemein(wert, stellen, trenner);
+}
+
+std::string Formatieren(double wert, int stellen, char trenner) {
+  return FormatierenAllgemein(wert, stellen, trenner);
+}
+
+double Log10(float wert) {
+  if (!(wert > 0)) throw Laufzeitfehler(Fehlerart::Gleitkomma);
+  static const double ln10 = std::log(10.0);
+  return std::log(static_cast<double>(wert)) / ln10;
+}
+
+std::int16_t Gitterindex(std::int16_t spalte, std::int16_t zeile) {
+  constexpr int Zeilen = 12;
+  const int index = (spalte - 1) * Zeilen + (zeile - 1);
+  if (index < std::numeric_limits<std::int16_t>::min() || index > std::numeric_limits<std::int16_t>::max()) {
+    throw Laufzeitfehler(Fehlerart::Ueberlauf);
+  }
+  return static_cast<std::int16_t>(index);
+}
+
+}  // namespace vesk

@@ -1,0 +1,76 @@
+#pragma once
+#include <QString>
+#include <optional>
+
+/// What the windows need of the desktop. Tests put scripted implementations in place of the real ones.
+namespace vesk {
+
+enum class Symbol { Keins, Ausrufezeichen, Frage };
+enum class Knoepfe { OK, JaNein };
+enum class Antwort : short { OK = 1, Ja = 6, Nein = 7 };
+
+/// A modal box. A Ja/Nein box can only be left by one of its buttons.
+struct Box {
+  QString titel;
+  QString text;
+  Symbol symbol = Symbol::Ausrufezeichen;
+  Knoepfe knoepfe = Knoepfe::OK;
+  Antwort vorgabe = Antwort::Ja;  ///< default button of a Ja/Nein box
+};
+
+class Meldungsboxen {
+ public:
+  virtual ~Meldungsboxen() = default;
+  virtual Antwort Zeigen(const Box& box) = 0;
+};
+
+/// `filter` in the form "User Dateien (*.dat)"; `endung` without a dot is added to a name that has none.
+struct Dateiwahl {
+  QString titel;
+  QString filter;
+  QString endung;
+  QString verzeichnis;
+  QString vorschlag;
+};
+
+/// Both return the full path, or nothing when the user cancels. Speichern asks before overwriting.
+class Dateidialoge {
+ public:
+  virtual ~Dateidialoge() = default;
+  virtual std::optional<QString> Oeffnen(const Dateiwahl& wahl) = 0;
+  virtual std::optional<QString> Speichern(const Dateiwahl& wahl) = 0;
+};
+
+enum class Hilfebefehl { Kontext = 1, Beenden = 2, Inhalt = 3, HilfeBenutzen = 4 };
+
+/// `datei` is the name of the help file ("F1.HLP", "Vesk32.HLP"); `kontext` a context number.
+class Hilfe {
+ public:
+  virtual ~Hilfe() = default;
+  virtual void Aufrufen(const QString& datei, Hilfebefehl befehl, int kontext) = 0;
+};
+
+/// Per-user values that outlive a run, e.g. section "Options", key "Show Tips at Startup".
+class Benutzerspeicher {
+ public:
+  virtual ~Benutzerspeicher() = default;
+  virtual std::optional<QString> Lesen(const QString& abschnitt, const QString& schluessel) = 0;
+  virtual void Schreiben(const QString& abschnitt, const QString& schluessel, const QString& wert) = 0;
+};
+
+class Signalton {
+ public:
+  virtual ~Signalton() = default;
+  virtual void Piep() = 0;
+};
+
+/// Everything of the platform that the windows are given, by reference.
+struct Plattform {
+  Meldungsboxen& boxen;
+  Dateidialoge& dialoge;
+  Hilfe& hilfe;
+  Benutzerspeicher& speicher;
+  Signalton& ton;
+};
+
+}  // namespace vesk

@@ -1,0 +1,26 @@
+#pragma once
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QObject>
+#include <QStringList>
+#include <stdexcept>
+
+namespace vesk {
+
+/// The child of that object name, or an exception that lists the names there are.
+template <typename T>
+T& Finden(const QObject& wurzel, const QString& name) {
+  if (auto* kind = wurzel.findChild<T*>(name)) return *kind;
+  QStringList namen;
+  for (const QObject* kind : wurzel.findChildren<QObject*>()) {
+    if (!kind->objectName().isEmpty() && !kind->objectName().startsWith(QLatin1String("qt_"))) {
+      namen << kind->objectName();
+    }
+  }
+  namen.sort();
+  throw std::runtime_error("Kein \"" + name.toStdString() + "\" in " + wurzel.objectName().toStdString() +
+                           ": " + namen.join(QLatin1Char(' ')).toStdString());
+}
+
+}  // namespace vesk
