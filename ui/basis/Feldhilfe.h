@@ -1,0 +1,30 @@
+#pragma once
+#include <QStringView>
+#include <span>
+
+class QWidget;
+
+namespace vesk {
+
+/// One row of a window's tooltip table. `name` is an object name; of a control array the name before "_",
+/// then every element gets the text.
+struct Feldhilfe {
+  QStringView name;
+  QStringView text;
+};
+
+/// Writes the table's texts to the controls of `fenster`, or empties exactly those tooltips.
+void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool an);
+
+/// One row of a window's table of help context numbers.
+struct Hilfenummer {
+  QStringView name;
+  int kontext;
+};
+
+/// Name of the dynamic property that carries a control's help context number.
+inline constexpr const char* HilfekontextEigenschaft = "HelpContextID";
+
+void HilfenummernSetzen(QWidget& fenster, std::span<const Hilfenummer> tabelle);
+
+}  // namespace vesk
