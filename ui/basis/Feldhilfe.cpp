@@ -17,7 +17,7 @@ void JeControl(QWidget& fenster, QStringView name, Tun tun) {
     if (kindname != einzeln) {
       if (!kindname.startsWith(feld)) continue;
       bool zahl = false;
-      QStringView(kindname).mid(feld.size()).toInt(&zahl);
+      static_cast<void>(QStringView(kindname).mid(feld.size()).toInt(&zahl));
       if (!zahl) continue;
     }
     tun(*kind);
