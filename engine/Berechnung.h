@@ -1,0 +1,76 @@
+#pragma once
+#include <optional>
+
+#include "Bandlogik.h"
+#include "HSM.h"
+#include "Laufzeitfehler.h"
+#include "Rechenwerte.h"
+
+namespace vesk {
+
+enum class Modus {
+  Abstand,   ///< power in, distances out
+  Leistung,  ///< distance in, powers out
+};
+
+/// How a calculation is to be made.
+struct Rechenart {
+  Modus modus = Modus::Abstand;
+  bool afu = true;       ///< least favourable frequency of the amateur band
+  bool ausgeben = true;  ///< false: only the limits are brought up to date
+};
+
+/// Numbers that enter a calculation beside frequency and signal type.
+struct Stationswerte {
+  float PWR = 0;        ///< W; the given distance in m in power mode
+  float Gewinn = 0;     ///< dBi
+  float Daempfung = 0;  ///< dB
+  float Winkel = 0;     ///< dB
+  float Faktor = 1;     ///< product of mode and cycle factor
+};
+
+/// Bits of Nahfeldflags: the radiating near field reaches beyond this distance.
+enum Nahfeldbits { NahfeldOhneHSM = 1, NahfeldHSM306 = 2, NahfeldHSMvde = 4 };
+
+/// Near and far field and the three limits at one frequency.
+struct Grenzwerte {
+  float QRG = 0;  ///< as entered, MHz
+  Auswertefrequenzen frequenz;
+  bool ausserhalb = false;  ///< QRG is outside the range of the calculation
+  float ohneHSM = 0;        ///< V/m; 0: none defined
+  HSM306Werte hsm306;
+  HSMvdeWerte hsmVDE;
+  float Lambda = 0;    ///< m
+  float Nahfeld = 0;   ///< end of the reactive near field, m
+  float Fernfeld = 0;  ///< begin of the far field, m
+};
+
+/// One calculation. What has no value was not reached (a fault) or does not belong to the mode.
+struct Rechenergebnis {
+  Modus modus = Modus::Abstand;
+  bool begonnen = false;  ///< frequency and power (or distance) were greater than 0
+  Grenzwerte grenzwerte;
+  std::optional<float> EIRP;       ///< W, without angle attenuation; distance mode
+  std::optional<float> AntEinPWR;  ///< power at the antenna input, W; distance mode
+  std::optional<float> WEIRP;    ///< W: with angle attenuation; in power mode belonging to the power ohneHSM
+  std::optional<float> ohneHSM;  ///< distance in m, in power mode the largest power in W
+  std::optional<float> HSM306;
+  std::optional<float> HSMvde;
+  bool vollstaendig = false;  ///< near-field flags are set
+  int Nahfeldflags = 0;
+  std::optional<Fehlerart> fehler;
+};
+
+/// Limits, near and far field at the entered frequency (MHz). Throws Laufzeitfehler for a frequency so small
+/// that its wavelength is no single; `grenzwerte` then holds what was found before.
+void GrenzwerteBestimmen(float qrg, bool afu, std::int16_t grenzwerttyp, Grenzwerte& grenzwerte);
+
+/// Distances or powers from numbers. `ergebnis.grenzwerte` is given; the rest is filled as far as the
+/// calculation gets. Throws Laufzeitfehler.
+void AusgabenBestimmen(const Stationswerte& station, Modus modus, Rechenergebnis& ergebnis);
+
+/// The central calculation on the texts of the record; the record receives frequencies and limits, empty
+/// gain, loss and angle texts become "0". A fault is told in the result and nothing is thrown.
+Rechenergebnis Berechnen(Rechenwerte& werte, const Rechenart& art);
+
+}  // namespace vesk

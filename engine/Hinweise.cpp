@@ -1,0 +1,90 @@
+#include "Hinweise.h"
+
+#include <array>
+
+namespace vesk {
+
+namespace {
+
+constexpr const char* WiederAnzeigen = "Diese Meldung in Zukunft wieder anzeigen?";
+
+constexpr std::array<const char*, 8> Nahfeldtexte = {
+    "",
+    "ohne HSM!",
+    "HSM 306!",
+    "ohne HSM und HSM 306!",
+    "HSM VDE!",
+    "ohne HSM und HSM VDE!",
+    "HSM 306 und HSM VDE!",
+    "",
+};
+
+}  // namespace
+
+Hinweis Fehlermeldung(const std::string& text, const std::string& titel) {
+  return {titel.empty() ? "Vesk - Fehlermeldung" : titel, text};
+}
+
+Hinweis Fehlermeldung(Fehlerart art) {
+  return Fehlermeldung(Laufzeitfehler(art).what());
+}
+
+Hinweis BereichsHinweis() {
+  return {"Hinweis", "Die Berechnung erfolgt für Frequenzen von 0,003 MHz bis 300 GHz"};
+}
+
+Hinweis HSMBereichsHinweis() {
+  return {"Hinweis", "HSM-Berechnung von 30 KHz - 2,5 GHz"};
+}
+
+Hinweis EingabeHinweis() {
+  return {"Felder bitte korrekt ausfüllen",
+          "Zum Berechnen müssen die roten Eingabefelder ausgefüllt werden!"};
+}
+
+Hinweis NahfeldHinweis(int flags, Modus modus) {
+  constexpr int Alle = NahfeldOhneHSM | NahfeldHSM306 | NahfeldHSMvde;
+  std::string text;
+  if (flags == Alle) {
+    text = modus == Modus::Abstand ? "Das Nahfeld ist größer als alle erforderlichen Sicherheitsabstände!"
+                                   : "Das Nahfeld ist größer als der eingegebene Sicherheitsabstand!";
+  } else {
+    text = "Das Nahfeld ist größer als der berechnete Sicherheitsabstand \n";
+    text += Nahfeldtexte.at(static_cast<std::size_t>(flags));
+  }
+  text +=
+      "\nEine Nahfeldberechnung oder Messung "
+      "\nist eventuell dann erforderlich, "
+      "\nwenn der vorhandene Sicherheitsabstand "
+      "\nkleiner ist als die Nahfeldgrenze. "
+      "\nSiehe auch: Hilfehandbuch Nahfeldsituation Aufklärung."
+      "\n\n";
+  return {"Nahfeld Problematik", text + WiederAnzeigen, true};
+}
+
+Hinweis HSMHinweis() {
+  const std::string text =
+      "Eine Uss Störschwelle für die eingegebene Frequenz\n"
+      "ist laut DIN VDE 0848 Teil 3-1 vom 11.11.98 noch in\n"
+      "Bearbeitung. \n"
+      "\n"
+      "Bisher definierte Uss Störschwellen (Stand 11.11.98):\n"
+      "AM: 30 KHz - 100 MHz\n"
+      "TV: 30 KHz - 1,1 GHz\n"
+      "GSM: 850 MHz  - 2,5 GHz\n"
+      "\n"
+      "Zusätzlich ist die Berechnung von HSM-Werten\n"
+      "für Frequenzen oberhalb 2,5 GHz laut DIN VDE 0848  \n"
+      "Teil 3-1 vom 11.11.98, Absatz 5.1.3.4 noch in Bearbeitung.\n"
+      "\n"
+      "In Frequenzbereichen für die Störschwellen oder \n"
+      "Umrechnungsformeln in der Norm noch nicht festgelegt\n"
+      "sind, wird daher nur der Personenschutzwert berechnet.\n"
+      "\n"
+      "Interessehalber kann jedoch manuell auch für einen \n"
+      "anderen Grenzwerttyp (AM, TV, GSM) gerechnet werden\n"
+      "\n";
+  return {"DIN VDE 0848 Teil 3-1", text + WiederAnzeigen, true};
+}
+
+}  // namespace vesk
