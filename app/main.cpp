@@ -1,6 +1,109 @@
 #include <QApplication>
+#include <QLocale>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "Kommandozeile.h"
+#include "Programm.h"
+#include "Programmbild.h"
+#include "QtPlattform.h"
+#include "Version.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class KeineHilfe : public vesk::Hilfe {
+ public:
+  void Aufrufen(const QString&, vesk::Hilfebefehl, int) override {}
+};
+
+/// Options of the program itself; what only Qt knows (-platform, -style) is left to it.
+struct Startoptionen {
+  bool hilfe = false;
+  bool version = false;
+  QString verzeichnis;
+  std::string fehler;
+};
+
+Startoptionen Lesen(const std::vector<std::string>& argumente) {
+  Startoptionen optionen;
+  for (std::size_t i = 0; i < argumente.size(); ++i) {
+    const std::string& argument = argumente[i];
+    if (argument == "--help" || argument == "-h") {
+      optionen.hilfe = true;
+    } else if (argument == "--version") {
+      optionen.version = true;
+    } else if (argument == "--verzeichnis" && i + 1 < argumente.size()) {
+      optionen.verzeichnis = QString::fromStdString(argumente[++i]);
+    } else if (argument.starts_with("--verzeichnis=")) {
+      optionen.verzeichnis = QString::fromStdString(argument.substr(argument.find('=') + 1));
+    } else if (argument == "--verzeichnis") {
+      optionen.fehler = "Der Option --verzeichnis fehlt ihr Wert.";
+    } else {
+      optionen.fehler = "Unbekannte Angabe: " + argument;
+    }
+  }
+  return optionen;
+}
+
+int Fehlaufruf(const std::string& text) {
+  std::cerr << "vesk: " << text << "\nMehr dazu: vesk --help\n";
+  return 2;
+}
+
+bool OhneBildschirm() {
+  return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+int FensterOeffnen(int anzahl, char** argumente) {
+  const QApplication anwendung(anzahl, argumente);
+  QApplication::setApplicationName(u"Vesk"_s);
+  QApplication::setOrganizationName(u"Vesk"_s);
+  QApplication::setApplicationVersion(QString::fromStdString(vesk::VersionLang()));
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(vesk::Programmbild(64, 1));
+  const QStringList rest = QApplication::arguments().mid(1);
+  std::vector<std::string> texte;
+  for (const QString& text : rest) texte.push_back(text.toStdString());
+  const Startoptionen optionen = Lesen(texte);
+  if (!optionen.fehler.empty()) return Fehlaufruf(optionen.fehler);
+
+  vesk::QtMeldungsboxen boxen;
+  vesk::QtDateidialoge dialoge;
+  vesk::QtBenutzerspeicher speicher;
+  vesk::QtSignalton ton;
+  KeineHilfe hilfe;
+  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
+  vesk::Programm programm(plattform);
+  QObject::connect(&programm, &vesk::Programm::beendet, qApp, &QApplication::quit, Qt::QueuedConnection);
+  programm.Starten();
+  return QApplication::exec();
+}
+
+}  // namespace
 
 int main(int anzahl, char** argumente) {
-  QApplication programm(anzahl, argumente);
-  return 0;
+  const std::vector<std::string> texte(argumente + 1, argumente + anzahl);
+  if (!texte.empty() && texte.front() == "rechnen") {
+    const char trenner = QLocale::system().decimalPoint().at(0).toLatin1();
+    return vesk::Rechnen(std::span(texte).subspan(1), trenner, std::cout, std::cerr);
+  }
+  const Startoptionen optionen = Lesen(texte);
+  if (optionen.hilfe) {
+    std::cout << vesk::Hilfetext();
+    return 0;
+  }
+  if (optionen.version) {
+    std::cout << vesk::Produktname << ' ' << vesk::VersionLang() << '\n';
+    return 0;
+  }
+  const bool plattformGewaehlt = std::find(texte.begin(), texte.end(), "-platform") != texte.end();
+  if (OhneBildschirm() && !plattformGewaehlt) {
+    std::cerr << "vesk: Es ist kein Bildschirm da. Im Terminal rechnet: vesk rechnen --help\n";
+    return 1;
+  }
+  return FensterOeffnen(anzahl, argumente);
 }

@@ -1,5 +1,6 @@
 #include "Farben.h"
 
+#include <QAbstractButton>
 #include <QLineEdit>
 #include <QPalette>
 #include <QWidget>
@@ -8,26 +9,27 @@ namespace vesk {
 
 namespace {
 
-bool IstFeld(const QWidget& widget) {
-  return qobject_cast<const QLineEdit*>(&widget) != nullptr;
-}
+struct Rollen {
+  QPalette::ColorRole flaeche;
+  QPalette::ColorRole schrift;
+};
 
-QPalette::ColorRole Flaeche(const QWidget& widget) {
-  return IstFeld(widget) ? QPalette::Base : QPalette::Window;
-}
-
-QPalette::ColorRole Schrift(const QWidget& widget) {
-  return IstFeld(widget) ? QPalette::Text : QPalette::WindowText;
+Rollen RollenVon(const QWidget& widget) {
+  if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return {QPalette::Base, QPalette::Text};
+  if (qobject_cast<const QAbstractButton*>(&widget) != nullptr)
+    return {QPalette::Button, QPalette::ButtonText};
+  return {QPalette::Window, QPalette::WindowText};
 }
 
 }  // namespace
 
 void Hintergrund(QWidget& widget, const QColor& farbe) {
+  const Rollen rollen = RollenVon(widget);
   QPalette palette = widget.palette();
-  palette.setColor(Flaeche(widget), farbe);
-  palette.setColor(Schrift(widget), Qt::black);
+  palette.setColor(rollen.flaeche, farbe);
+  palette.setColor(rollen.schrift, Qt::black);
   widget.setPalette(palette);
-  if (!IstFeld(widget)) widget.setAutoFillBackground(true);
+  if (rollen.flaeche == QPalette::Window) widget.setAutoFillBackground(true);
 }
 
 void HintergrundDesThemas(QWidget& widget) {
@@ -35,12 +37,12 @@ void HintergrundDesThemas(QWidget& widget) {
 }
 
 QColor Hintergrundfarbe(const QWidget& widget) {
-  return widget.palette().color(Flaeche(widget));
+  return widget.palette().color(RollenVon(widget).flaeche);
 }
 
 void Textfarbe(QWidget& widget, const QColor& farbe) {
   QPalette palette = widget.palette();
-  palette.setColor(Schrift(widget), farbe);
+  palette.setColor(RollenVon(widget).schrift, farbe);
   widget.setPalette(palette);
 }
 

@@ -1,10 +1,11 @@
 #include "Zahlenfeld.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
-#include <QGuiApplication>
+#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -17,12 +18,29 @@
 
 namespace vesk {
 
+namespace {
+
+/// Whether the focus only rests elsewhere and will come back by itself.
+bool NurUnterbrochen(const QFocusEvent& ereignis) {
+  switch (ereignis.reason()) {
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+      return true;
+    case Qt::ActiveWindowFocusReason:
+      return QApplication::activeWindow() == nullptr || QApplication::activeModalWidget() != nullptr;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
 Zahlenfeld::Zahlenfeld(Rechenwerte& werte, Signalton& ton, QWidget* eltern)
     : QLineEdit(eltern), werte_(werte), ton_(ton) {}
 
 void Zahlenfeld::keyPressEvent(QKeyEvent* ereignis) {
   if (ereignis->matches(QKeySequence::Paste)) {
-    Einfuegen(QGuiApplication::clipboard()->text());
+    Einfuegen(QApplication::clipboard()->text());
     return;
   }
   const QString text = ereignis->text();
@@ -58,8 +76,8 @@ void Zahlenfeld::mousePressEvent(QMouseEvent* ereignis) {
 }
 
 void Zahlenfeld::mouseReleaseEvent(QMouseEvent* ereignis) {
-  if (ereignis->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
-    Einfuegen(QGuiApplication::clipboard()->text(QClipboard::Selection));
+  if (ereignis->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection()) {
+    Einfuegen(QApplication::clipboard()->text(QClipboard::Selection));
     return;
   }
   QLineEdit::mouseReleaseEvent(ereignis);
@@ -76,8 +94,7 @@ void Zahlenfeld::contextMenuEvent(QContextMenuEvent* ereignis) {
   menue->setAttribute(Qt::WA_DeleteOnClose);
   if (auto* einfuegen = menue->findChild<QAction*>(QStringLiteral("edit-paste"))) {
     einfuegen->disconnect(SIGNAL(triggered(bool)));
-    connect(einfuegen, &QAction::triggered, this,
-            [this] { Einfuegen(QGuiApplication::clipboard()->text()); });
+    connect(einfuegen, &QAction::triggered, this, [this] { Einfuegen(QApplication::clipboard()->text()); });
   }
   menue->popup(ereignis->globalPos());
 }
@@ -88,6 +105,20 @@ void Zahlenfeld::dropEvent(QDropEvent* ereignis) {
   Einfuegen(ereignis->mimeData()->text());
   ereignis->setDropAction(Qt::CopyAction);
   ereignis->accept();
+}
+
+void Zahlenfeld::focusInEvent(QFocusEvent* ereignis) {
+  QLineEdit::focusInEvent(ereignis);
+  if (betreten_) return;
+  betreten_ = true;
+  Q_EMIT betreten();
+}
+
+void Zahlenfeld::focusOutEvent(QFocusEvent* ereignis) {
+  QLineEdit::focusOutEvent(ereignis);
+  if (!betreten_ || NurUnterbrochen(*ereignis)) return;
+  betreten_ = false;
+  Q_EMIT verlassen();
 }
 
 QString Zahlenfeld::Filtern(const QString& text) {

@@ -21,6 +21,10 @@ class Zahlenfeld : public QLineEdit {
   /// A typed character has passed the filter; `zeichen` is what came back (0: swallowed). Emitted before the
   /// field takes it, so that a receiver may still clear the field.
   void gefiltert(int zeichen);
+  /// The focus came from, or went to, another control or another window of the program. A menu, a message
+  /// box, a file dialog or another program that takes the focus for a while is no leaving.
+  void betreten();
+  void verlassen();
 
  protected:
   void keyPressEvent(QKeyEvent* ereignis) override;
@@ -30,11 +34,14 @@ class Zahlenfeld : public QLineEdit {
   void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
   void contextMenuEvent(QContextMenuEvent* ereignis) override;
   void dropEvent(QDropEvent* ereignis) override;
+  void focusInEvent(QFocusEvent* ereignis) override;
+  void focusOutEvent(QFocusEvent* ereignis) override;
 
  private:
   QString Filtern(const QString& text);
   void Einfuegen(const QString& text);
 
+  bool betreten_ = false;
   Rechenwerte& werte_;
   Signalton& ton_;
 };
