@@ -10,7 +10,7 @@ namespace vesk {
 namespace {
 
 constexpr double Lichtgeschwindigkeit = 299.7925;  // m * MHz
-constexpr double Pi = 3.141592654;
+constexpr double NahfeldJeLambda = 1 / (2 * 3.141592654);
 constexpr double Wurzel30 = 5.477;  // from d = sqrt(30 * EIRP) / E
 
 double HochZehn(double exponent) {
@@ -24,9 +24,9 @@ double Wurzel(double wert) {
 void AbstaendeBestimmen(const Stationswerte& s, Rechenergebnis& e) {
   const Grenzwerte& g = e.grenzwerte;
   const double pegel = 10 * Log10(s.PWR);
-  e.EIRP = AlsSingle(HochZehn((pegel + s.Gewinn - s.Daempfung) / 10));
-  e.AntEinPWR = AlsSingle(HochZehn((pegel - s.Daempfung) / 10));
-  e.WEIRP = AlsSingle(HochZehn((pegel + s.Gewinn - s.Daempfung - s.Winkel) / 10));
+  e.EIRP = AlsSingle(HochZehn((pegel + s.Gewinn - s.Daempfung) * 0.1));
+  e.AntEinPWR = AlsSingle(HochZehn((pegel - s.Daempfung) * 0.1));
+  e.WEIRP = AlsSingle(HochZehn((pegel + s.Gewinn - s.Daempfung - s.Winkel) * 0.1));
 
   // The factors of mode and cycle average the power over time, which only the limit for persons without a
   // pacemaker allows; the pacemaker distances always take the full power.
@@ -46,7 +46,7 @@ void LeistungenBestimmen(const Stationswerte& s, Rechenergebnis& e) {
   e.ohneHSM = leistung(s.PWR / Wurzel(s.Faktor), g.ohneHSM);
   e.HSM306 = leistung(s.PWR, g.hsm306.Grenzwert);
   e.HSMvde = leistung(s.PWR, g.hsmVDE.Grenzwert);
-  e.WEIRP = AlsSingle(HochZehn((10 * Log10(*e.ohneHSM) + s.Gewinn - s.Daempfung) / 10));
+  e.WEIRP = AlsSingle(HochZehn((10 * Log10(*e.ohneHSM) + s.Gewinn - s.Daempfung) * 0.1));
 }
 
 int Nahfeldflags(const Rechenergebnis& e, const Stationswerte& s) {
@@ -90,7 +90,8 @@ void Durchrechnen(Rechenwerte& werte, const Rechenart& art, Rechenergebnis& e) {
   if (werte.QRG <= 0 || station.PWR <= 0) return;
 
   e.begonnen = true;
-  GrenzwerteBestimmen(werte.QRG, art.afu, werte.Grenzwerttyp, e.grenzwerte);
+  e.grenzwerte = GrenzwerteBestimmen(werte.QRG, art.afu, werte.Grenzwerttyp);
+  FelderBestimmen(e.grenzwerte);
   if (!art.ausgeben) return;
 
   station.Gewinn = ZahlOderNull(werte.GewinnText);
@@ -102,15 +103,19 @@ void Durchrechnen(Rechenwerte& werte, const Rechenart& art, Rechenergebnis& e) {
 
 }  // namespace
 
-void GrenzwerteBestimmen(float qrg, bool afu, std::int16_t grenzwerttyp, Grenzwerte& g) {
-  g.QRG = qrg;
-  g.frequenz = Bandlogik(qrg, afu);
-  g.ausserhalb = !ImRechenbereich(qrg);
-  g.ohneHSM = Grenzwert(qrg, g.frequenz.grenzwert);
-  g.hsm306 = HSM306(g.frequenz.hsm);
-  g.hsmVDE = HSMvde(g.frequenz.hsm, grenzwerttyp);
+Grenzwerte GrenzwerteBestimmen(float qrg, bool afu, std::int16_t grenzwerttyp) {
+  const Auswertefrequenzen frequenz = Bandlogik(qrg, afu);
+  return {.QRG = qrg,
+          .frequenz = frequenz,
+          .ausserhalb = !ImRechenbereich(qrg),
+          .ohneHSM = Grenzwert(qrg, frequenz.grenzwert),
+          .hsm306 = HSM306(frequenz.hsm),
+          .hsmVDE = HSMvde(frequenz.hsm, grenzwerttyp)};
+}
+
+void FelderBestimmen(Grenzwerte& g) {
   g.Lambda = AlsSingle(Lichtgeschwindigkeit / g.frequenz.lambda);
-  g.Nahfeld = AlsSingle(g.Lambda / (2 * Pi));
+  g.Nahfeld = AlsSingle(g.Lambda * NahfeldJeLambda);
   g.Fernfeld = AlsSingle(4.0 * g.Lambda);
 }
 

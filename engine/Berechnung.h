@@ -61,9 +61,11 @@ struct Rechenergebnis {
   std::optional<Fehlerart> fehler;
 };
 
-/// Limits, near and far field at the entered frequency (MHz). Throws Laufzeitfehler for a frequency so small
-/// that its wavelength is no single; `grenzwerte` then holds what was found before.
-void GrenzwerteBestimmen(float qrg, bool afu, std::int16_t grenzwerttyp, Grenzwerte& grenzwerte);
+/// Frequencies and limits at the entered frequency (MHz).
+Grenzwerte GrenzwerteBestimmen(float qrg, bool afu, std::int16_t grenzwerttyp);
+
+/// Wavelength, near and far field. Throws Laufzeitfehler for a wavelength that is no single.
+void FelderBestimmen(Grenzwerte& grenzwerte);
 
 /// Distances or powers from numbers. `ergebnis.grenzwerte` is given; the rest is filled as far as the
 /// calculation gets. Throws Laufzeitfehler.

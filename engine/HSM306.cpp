@@ -1,34 +1,41 @@
 #include <array>
+#include <cmath>
 #include <numbers>
 
 #include "HSM.h"
 #include "Laufzeitfehler.h"
-#include "Zahlen.h"
 
 namespace vesk {
 
 namespace {
 
 struct Abschnitt {
-  double fu, fo;  // MHz
+  double fu;      // MHz
+  float fo;       // MHz
   double Uu, Uo;  // V
+  double ln;      // ln(fo / fu)
 };
 
+constexpr double Effektiv = 1 / std::numbers::sqrt2;  // effective value of a peak
+
+constexpr double ln2 = std::numbers::ln2;
+constexpr double ln2_5 = 0.91629073187415507;
+
 constexpr std::array<Abschnitt, 9> Schwellen306 = {{
-    {0.05, 0.1, 0.022, 0.022},
-    {0.1, 0.2, 0.022, 0.03},
-    {0.2, 0.5, 0.03, 0.045},
-    {0.5, 1, 0.045, 0.067},
-    {1, 2, 0.067, 0.1},
-    {2, 5, 0.1, 0.15},
-    {5, 10, 0.15, 0.3},
-    {10, 20, 0.3, 0.34},
-    {20, 50, 0.34, 0.2},
+    {0.05, 0.1F, 0.022, 0.022, ln2},
+    {0.1, 0.2F, 0.022, 0.03, ln2},
+    {0.2, 0.5F, 0.03, 0.045, ln2_5},
+    {0.5, 1.0F, 0.045, 0.067, ln2},
+    {1, 2.0F, 0.067, 0.1, ln2},
+    {2, 5.0F, 0.1, 0.15, ln2_5},
+    {5, 10.0F, 0.15, 0.3, ln2},
+    {10, 20.0F, 0.3, 0.34, ln2},
+    {20, 50.0F, 0.34, 0.2, ln2_5},
 }};
 
 const Abschnitt& Suchen(float f) {
   for (const Abschnitt& abschnitt : Schwellen306) {
-    if (f < static_cast<float>(abschnitt.fo)) return abschnitt;
+    if (f < abschnitt.fo) return abschnitt;
   }
   return Schwellen306.back();
 }
@@ -40,10 +47,11 @@ HSM306Werte HSM306(float f) {
   const Abschnitt& a = Suchen(f);
 
   HSM306Werte werte;
-  const double anteil = Log10(static_cast<float>(f / a.fu)) / Log10(static_cast<float>(a.fo / a.fu));
+  // Linear in the logarithm of the frequency, of whatever base.
+  const double anteil = std::log(f / a.fu) / a.ln;
   werte.Uss = AlsSingle((a.Uo - a.Uu) * anteil + a.Uu);
   werte.Spitzenfeld = AlsSingle(static_cast<double>(werte.Uss) / f * 415);
-  werte.Grenzwert = AlsSingle(werte.Spitzenfeld / std::numbers::sqrt2);
+  werte.Grenzwert = AlsSingle(werte.Spitzenfeld * Effektiv);
   return werte;
 }
 

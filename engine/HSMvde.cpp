@@ -12,7 +12,8 @@ namespace vesk {
 
 namespace {
 
-constexpr double Freiraum = 376.99111848;  // wave impedance of free space, 120 pi Ohm
+constexpr double Effektiv = 1 / std::numbers::sqrt2;  // effective value of a peak
+constexpr double Freiraum = 376.99111848;             // wave impedance of free space, 120 pi Ohm
 
 /// Threshold U0 * (f / f0) ^ p from the end of the row before up to `bis`; p = 0 is a constant.
 struct Abschnitt {
@@ -85,7 +86,7 @@ float Schwelle(float f, std::int16_t grenzwerttyp) {
 /// Sorts a candidate (V/m) in, at the five decimals of its text, which is the precision of the limit.
 void Merken(HSMvdeWerte& werte, double feld) {
   auto i = static_cast<std::size_t>(werte.Anzahl++);
-  const std::int64_t kandidat = std::llround(feld * 1e5);
+  const auto kandidat = static_cast<std::int64_t>(feld * 1e5 + 0.5);
   for (; i > 0 && werte.Kandidaten[i - 1] > kandidat; --i) werte.Kandidaten[i] = werte.Kandidaten[i - 1];
   werte.Kandidaten[i] = kandidat;
 }
@@ -130,7 +131,7 @@ HSMvdeWerte HSMvde(float f, std::int16_t grenzwerttyp) {
   KandidatenBilden(werte, f);
   if (werte.Anzahl > 0) {
     const double kleinster = static_cast<double>(werte.Kandidaten.front()) / 1e5;
-    werte.Grenzwert = AlsSingle(kleinster / std::numbers::sqrt2);
+    werte.Grenzwert = AlsSingle(kleinster * Effektiv);
   }
   return werte;
 }

@@ -1,7 +1,6 @@
 #include "Laufzeitfehler.h"
 
 #include <cmath>
-#include <limits>
 
 namespace vesk {
 
@@ -25,11 +24,8 @@ const char* Text(Fehlerart art) {
 
 Laufzeitfehler::Laufzeitfehler(Fehlerart welche) : std::runtime_error(Text(welche)), art(welche) {}
 
-float AlsSingle(double wert) {
-  if (!std::isfinite(wert)) throw Laufzeitfehler(Fehlerart::Gleitkomma);
-  const auto single = static_cast<float>(wert);
-  if (!std::isfinite(single)) throw Laufzeitfehler(Fehlerart::Ueberlauf);
-  return single;
+void KeinSingle(double wert) {
+  throw Laufzeitfehler(std::isfinite(wert) ? Fehlerart::Ueberlauf : Fehlerart::Gleitkomma);
 }
 
 }  // namespace vesk

@@ -1,4 +1,6 @@
 #pragma once
+#include <cmath>
+#include <limits>
 #include <stdexcept>
 
 namespace vesk {
@@ -14,8 +16,15 @@ class Laufzeitfehler : public std::runtime_error {
   Fehlerart art;
 };
 
-/// `wert` as the single that the record stores. Throws Gleitkomma for a non-finite value and Ueberlauf for a
-/// finite one beyond the range of single.
-float AlsSingle(double wert);
+/// Throws Gleitkomma for a non-finite value and Ueberlauf for a finite one.
+[[noreturn]] void KeinSingle(double wert);
+
+/// `wert` as the single that the record stores; throws as KeinSingle when it is none.
+inline float AlsSingle(double wert) {
+  const auto single = static_cast<float>(wert);
+  if (!(std::abs(single) <= std::numeric_limits<float>::max())) [[unlikely]]
+    KeinSingle(wert);
+  return single;
+}
 
 }  // namespace vesk

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 #include "Laufzeitfehler.h"
 
@@ -102,7 +103,28 @@ std::string Formatieren(float wert) {
 }
 
 std::string Formatieren(float wert, int stellen, char trenner) {
-  return FormatierenAllgemein(wert, stellen, trenner);
+  // The shortest decimal lies within 2^-24 of the single. Where the hundredths are farther than twice that
+  // from a half, both round alike, and the single times 100, which is exact in double, can be rounded
+  // directly.
+  constexpr double Unschaerfe = 0x1p-23;
+  constexpr double Groesste = 1e15;
+  const double hundertstel = std::abs(static_cast<double>(wert)) * 100;
+  if (stellen != 2 || !(hundertstel < Groesste)) return FormatierenAllgemein(wert, stellen, trenner);
+  const auto gerundet = static_cast<std::int64_t>(hundertstel + 0.5);
+  const double abgeschnitten = std::floor(hundertstel);
+  if (std::abs(hundertstel - abgeschnitten - 0.5) <= hundertstel * Unschaerfe) {
+    return FormatierenAllgemein(wert, stellen, trenner);
+  }
+
+  std::array<char, 24> puffer{'-'};
+  char* const anfang = puffer.data() + 1;
+  char* ende = std::to_chars(anfang, puffer.data() + puffer.size(), gerundet / 100).ptr;
+  const auto rest = static_cast<char>(gerundet % 100);
+  *ende++ = trenner;
+  *ende++ = static_cast<char>('0' + rest / 10);
+  *ende++ = static_cast<char>('0' + rest % 10);
+  const bool minus = std::signbit(wert) && gerundet != 0;
+  return {minus ? puffer.data() : anfang, ende};
 }
 
 std::string Formatieren(double wert, int stellen, char trenner) {
@@ -111,8 +133,8 @@ std::string Formatieren(double wert, int stellen, char trenner) {
 
 double Log10(float wert) {
   if (!(wert > 0)) throw Laufzeitfehler(Fehlerart::Gleitkomma);
-  static const double ln10 = std::log(10.0);
-  return std::log(static_cast<double>(wert)) / ln10;
+  constexpr double JeLn10 = 1 / std::numbers::ln10;
+  return std::log(static_cast<double>(wert)) * JeLn10;
 }
 
 std::int16_t Gitterindex(std::int16_t spalte, std::int16_t zeile) {

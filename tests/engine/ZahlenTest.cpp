@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "Laufzeitfehler.h"
 #include "Rechenwerte.h"
 #include "Tastenfilter.h"
@@ -35,6 +37,23 @@ TEST(Zahlen, Formatieren) {
   EXPECT_EQ(Formatieren(0.0005, 3, ','), "0,001");
   EXPECT_EQ(Formatieren(1e300, 0, '.').size(), 301U);
   EXPECT_THROW(Formatieren(std::numeric_limits<float>::infinity()), Laufzeitfehler);
+}
+
+/// Singles around every half of a hundredth must round as their shortest decimal does.
+TEST(Zahlen, FormatierenAnDenHalben) {
+  for (int n = 1; n < 400000; n += 7) {
+    const float halb = static_cast<float>(n) / 200.0F;
+    for (const float wert : {std::nextafter(halb, 0.0F), halb, std::nextafter(halb, 1e9F), -halb}) {
+      // Ten places hold the whole shortest decimal here; the long form rounds nothing away.
+      std::string lang = Formatieren(wert, 10, '.');
+      const bool auf = lang[lang.size() - 8] >= '5';
+      lang.resize(lang.size() - 8);
+      const float gekuerzt = Zahl(lang);
+      const double erwartet = std::abs(static_cast<double>(gekuerzt)) + (auf ? 0.01 : 0.0);
+      ASSERT_NEAR(std::abs(static_cast<double>(Zahl(Formatieren(wert)))), erwartet, 0.001 + erwartet * 1e-6)
+          << lang;
+    }
+  }
 }
 
 TEST(Zahlen, Zahl) {

@@ -5,6 +5,8 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 
 #include "Farben.h"
 #include "Haupthilfe.h"
@@ -32,6 +34,12 @@ QLabel* Titel(const QString& name, const QString& text, QWidget* eltern) {
   return label;
 }
 
+/// Long titles break into a second line, so that the window fits a small screen at 150 %.
+void Umbrechen(QLabel& label) {
+  label.setWordWrap(true);
+  label.setMinimumWidth(label.fontMetrics().horizontalAdvance(u"Verluste zwischen Sender "_s));
+}
+
 }  // namespace
 
 frmVesk::~frmVesk() = default;
@@ -56,7 +64,12 @@ frmVesk::frmVesk(Zustand& zustand, Plattform& plattform) : zustand_(zustand), pl
   List1 = new QListWidget(flaeche);
   List1->setObjectName(u"List1"_s);
   List1->hide();
-  setCentralWidget(flaeche);
+  auto* rollbereich = new QScrollArea(this);
+  rollbereich->setFrameShape(QFrame::NoFrame);
+  rollbereich->setWidgetResizable(true);
+  rollbereich->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+  rollbereich->setWidget(flaeche);
+  setCentralWidget(rollbereich);
 
   eingaben_ = {{{txtQRG, &Rechenwerte::QRGText},
                 {txtPWR, &Rechenwerte::PWRText},
@@ -72,6 +85,7 @@ frmVesk::frmVesk(Zustand& zustand, Plattform& plattform) : zustand_(zustand), pl
   EreignisseVerbinden();
   Tabfolge();
   txtQRG->setFocus();
+  resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 
 QWidget* frmVesk::ModusAnlegen() {
@@ -103,6 +117,7 @@ Klicklabel* frmVesk::Eingabezeile(QGridLayout& raster, const QString& label, con
   auto* titel = new Klicklabel(text, this);
   titel->setObjectName(label);
   titel->setBuddy(feld);
+  Umbrechen(*titel);
   feld->setMinimumWidth(Feldbreite(*this));
   feld->setAlignment(Qt::AlignRight);
   feld->setAccessibleName(text);
@@ -159,6 +174,7 @@ QLineEdit* frmVesk::Ausgabefeld(const QString& name, const QString& beschreibung
 void frmVesk::DreierzeileAnlegen(QGridLayout& raster, int zeile, QLabel*& titel, const QString& name,
                                  const QString& text, std::array<QLineEdit*, 3> felder) {
   titel = Titel(name, text, this);
+  Umbrechen(*titel);
   raster.addWidget(titel, zeile, 0);
   for (int spalte = 0; spalte < 3; ++spalte) {
     if (QLineEdit* feld = felder.at(static_cast<std::size_t>(spalte)))
