@@ -5,6 +5,7 @@
 namespace vesk {
 
 inline constexpr std::string_view Produktname = "Vesk";
+inline constexpr std::string_view Rechtshinweis = "Alle Angaben ohne Gewähr";
 inline constexpr int VersionHaupt = 2;
 inline constexpr int VersionNeben = 5;
 inline constexpr int VersionRevision = 1;

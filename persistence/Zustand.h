@@ -44,8 +44,7 @@ struct Zustand {
   Einstellungen einstellungen;
   bool UserGeaendert = false;
 
-  std::string Fusszeile;
-  std::string DruckFusszeile;
+  std::string Fusszeile;               ///< user's text before the program's own footer of the printouts
   std::string UserDatei = "user.dat";  ///< bare name
   std::string UserVerzeichnis;         ///< shown in the title of the data sheet
   std::string ProgrammVerzeichnis;
