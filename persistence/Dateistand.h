@@ -1,0 +1,51 @@
+#pragma once
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Dateien.h"
+#include "Neufassung.h"
+
+namespace vesk {
+
+/// One running program's view of the file that it works on. Two programs may work on the same file:
+/// - while a program works on a file it holds the file's advisory lock, so a second one can tell its user;
+/// - before writing, the file on the disk is compared with what was read or written last; if somebody else
+///   has written it since, nothing is written and the user is to be asked. Comparison and replacement happen
+///   under one lock, so two programs that save at the same moment see each other.
+class Dateistand {
+ public:
+  enum class Ausgang {
+    Geschrieben,
+    FremdGeaendert,  ///< the file holds something that this program has never seen
+    Fehler,
+  };
+  struct Ergebnis {
+    Ausgang ausgang;
+    std::string grund;  ///< of `Fehler`
+  };
+
+  /// Reads the file and takes it over as the one worked on.
+  Gelesen Lesen(const std::filesystem::path& pfad);
+
+  /// Another program holds the file read last.
+  bool AnderswoOffen() const { return anderswoOffen_; }
+
+  /// Another program works on the file `pfad`.
+  bool AndereArbeitenAn(const std::filesystem::path& pfad) const;
+
+  /// Writes and takes the file over as the one worked on. With `auchFremdes` the user has agreed to replace
+  /// whatever is there.
+  Ergebnis Schreiben(const std::filesystem::path& pfad, std::string_view bytes, bool auchFremdes = false);
+
+ private:
+  bool Fremd(const std::filesystem::path& pfad, std::string_view bytes) const;
+
+  std::filesystem::path pfad_;
+  std::optional<std::string> inhalt_;  ///< what stood in the file last; nothing: there was none
+  Deskriptor sperre_;
+  bool anderswoOffen_ = false;
+};
+
+}  // namespace vesk

@@ -1,0 +1,279 @@
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <functional>
+#include <random>
+#include <thread>
+
+#include "Dateien.h"
+#include "Dateistand.h"
+#include "Ordner.h"
+
+namespace vesk {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Runs `tun` in a process of its own and returns what it returned.
+int ImKind(const std::function<int()>& tun) {
+  const pid_t kind = fork();
+  if (kind == 0) _exit(tun());
+  int zustand = 0;
+  waitpid(kind, &zustand, 0);
+  return WIFEXITED(zustand) ? WEXITSTATUS(zustand) : -1;
+}
+
+TEST(DateiSchreiben, NachJedemAbschussAltOderNeuUndGanz) {
+  const Ordner ordner;
+  const fs::path pfad = ordner / "user.dat";
+  const std::string alt(60000, 'A');
+  const std::string neu(90000, 'B');
+  ASSERT_EQ(DateiSchreiben(pfad, alt), std::nullopt);
+
+  std::minstd_rand zufall(4711);
+  int mittendrin = 0;
+  std::string zuletzt = alt;
+  // On a busy machine many children are killed before they have begun.
+  for (int i = 0; i < 250 || (mittendrin < 20 && i < 2500); ++i) {
+    const pid_t kind = fork();
+    if (kind == 0) {
+      for (bool b = true;; b = !b) {
+        if (DateiSchreiben(pfad, b ? neu : alt)) _exit(1);
+      }
+    }
+    std::this_thread::sleep_for(std::chrono::microseconds(zufall() % 20000));
+    kill(kind, SIGKILL);
+    int zustand = 0;
+    waitpid(kind, &zustand, 0);
+    ASSERT_TRUE(WIFSIGNALED(zustand));
+
+    const std::string jetzt = Inhalt(pfad);
+    ASSERT_TRUE(jetzt == alt || jetzt == neu) << "kill " << i << ", " << jetzt.size() << " bytes";
+    ASSERT_LE(ordner.Anzahl(), 2) << "more than one remainder";
+    if (jetzt != zuletzt || ordner.Anzahl() == 2) ++mittendrin;
+    zuletzt = jetzt;
+  }
+  EXPECT_GE(mittendrin, 20) << "the kills did not fall into the saving";
+  ASSERT_EQ(DateiSchreiben(pfad, "ende"), std::nullopt);
+  EXPECT_EQ(Inhalt(pfad), "ende");
+  EXPECT_EQ(ordner.Anzahl(), 1);
+}
+
+TEST(DateiSchreiben, WasNichtGehtHatEinenGrundUndLaesstAllesStehen) {
+  const Ordner ordner;
+  Anlegen(ordner / "datei", "alt");
+  fs::create_directory(ordner / "ordner");
+  fs::create_symlink("kreis2", ordner / "kreis1");
+  fs::create_symlink("kreis1", ordner / "kreis2");
+  mkfifo((ordner / "rohr").c_str(), 0600);
+  const int vorher = ordner.Anzahl();
+
+  const std::pair<fs::path, const char*> faelle[] = {
+      {ordner / "fehlt" / "user.dat", "Das Verzeichnis gibt es nicht."},
+      {ordner / "datei" / "user.dat", "Ein Teil des Pfades ist kein Verzeichnis."},
+      {ordner / "ordner", "Unter diesem Namen gibt es ein Verzeichnis."},
+      {ordner / "", "Unter diesem Namen gibt es ein Verzeichnis."},
+      {ordner / "rohr", "Unter diesem Namen gibt es etwas, das keine gewöhnliche Datei ist."},
+      {"/dev/full", "Unter diesem Namen gibt es etwas, das keine gewöhnliche Datei ist."},
+      {ordner / "kreis1", "Die Verknüpfung führt im Kreis."},
+      {ordner / std::string(300, 'x'), "Der Name der Datei ist zu lang."},
+  };
+  for (const auto& [pfad, grund] : faelle) {
+    EXPECT_EQ(DateiSchreiben(pfad, "neu"), grund) << pfad;
+    EXPECT_NE(DateiKopieren(ordner / "datei", pfad), std::nullopt) << pfad;
+    EXPECT_NE(Dateistand().Schreiben(pfad, "neu").ausgang, Dateistand::Ausgang::Geschrieben) << pfad;
+  }
+  EXPECT_EQ(Inhalt(ordner / "datei"), "alt");
+  EXPECT_EQ(ordner.Anzahl(), vorher);
+}
+
+TEST(DateiSchreiben, KeinPlatz) {
+  const Ordner ordner;
+  const fs::path pfad = ordner / "user.dat";
+  Anlegen(pfad, "alt");
+  EXPECT_EQ(ImKind([&] {
+              std::signal(SIGXFSZ, SIG_IGN);
+              const rlimit grenze{4096, 4096};
+              setrlimit(RLIMIT_FSIZE, &grenze);
+              const Fehlergrund grund = DateiSchreiben(pfad, std::string(5000, 'x'));
+              return grund && grund->find("Platz") != std::string::npos ? 0 : 1;
+            }),
+            0);
+  EXPECT_EQ(Inhalt(pfad), "alt");
+  EXPECT_EQ(ordner.Anzahl(), 1);
+}
+
+TEST(DateiSchreiben, VollerDatentraeger) {
+  const Ordner ordner;
+  const int ergebnis = ImKind([&] {
+    // A mount of our own that vanishes with the process.
+    if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+      return 77;
+    if (mount("tmpfs", ordner.pfad.c_str(), "tmpfs", 0, "size=16k") != 0) return 77;
+    const fs::path pfad = ordner / "user.dat";
+    Anlegen(pfad, "alt");
+    const Fehlergrund grund = DateiSchreiben(pfad, std::string(50000, 'x'));
+    const bool gut = grund == "Auf dem Datenträger ist kein Platz mehr." && Inhalt(pfad) == "alt";
+    return gut && ordner.Anzahl() == 1 && !DateiSchreiben(pfad, "passt") ? 0 : 1;
+  });
+  if (ergebnis == 77) GTEST_SKIP() << "no right to mount";
+  EXPECT_EQ(ergebnis, 0);
+}
+
+TEST(DateiSchreiben, KeineBerechtigung) {
+  const Ordner ordner;
+  const fs::path pfad = ordner / "user.dat";
+  Anlegen(pfad, "alt");
+  const auto versuch = [&] {
+    if (geteuid() == 0 && setuid(65534) != 0) return 2;
+    const Fehlergrund grund = DateiSchreiben(pfad, "neu");
+    return grund == "Die Berechtigung fehlt." ? 0 : 1;
+  };
+  fs::permissions(ordner.pfad, fs::perms(0555));
+  fs::permissions(pfad, fs::perms(0666));
+  EXPECT_EQ(ImKind(versuch), 0) << "read-only directory";
+  fs::permissions(ordner.pfad, fs::perms(0777));
+  fs::permissions(pfad, fs::perms(0444));
+  EXPECT_EQ(ImKind(versuch), 0) << "read-only file in a directory that could be written";
+  EXPECT_EQ(Inhalt(pfad), "alt");
+}
+
+TEST(DateiSchreiben, RechteUndVerknuepfungenBleiben) {
+  const Ordner ordner;
+  fs::create_directory(ordner / "anderswo");
+  Anlegen(ordner / "anderswo/ziel.dat", "alt");
+  fs::permissions(ordner / "anderswo/ziel.dat", fs::perms(0640));
+  fs::create_symlink("anderswo/ziel.dat", ordner / "user.dat");
+  fs::create_symlink("anderswo/neu.dat", ordner / "neu.dat");
+
+  EXPECT_EQ(DateiSchreiben(ordner / "user.dat", "eins"), std::nullopt);
+  EXPECT_EQ(DateiSchreiben(ordner / "neu.dat", "zwei"), std::nullopt);
+  EXPECT_TRUE(fs::is_symlink(ordner / "user.dat") && fs::is_symlink(ordner / "neu.dat"));
+  EXPECT_EQ(Inhalt(ordner / "anderswo/ziel.dat"), "eins");
+  EXPECT_EQ(Inhalt(ordner / "anderswo/neu.dat"), "zwei");
+  EXPECT_EQ(fs::status(ordner / "anderswo/ziel.dat").permissions(), fs::perms(0640));
+
+  EXPECT_EQ(DateiKopieren(ordner / "user.dat", ordner / "User.bak"), std::nullopt);
+  EXPECT_EQ(Inhalt(ordner / "User.bak"), "eins");
+  EXPECT_EQ(fs::status(ordner / "User.bak").permissions(), fs::perms(0640));
+}
+
+TEST(DateiLesen, WasImmerDortSteht) {
+  const Ordner ordner;
+  Anlegen(ordner / "leer", "");
+  Anlegen(ordner / "lang", std::string(1000, 'x'));
+  mkfifo((ordner / "rohr").c_str(), 0600);
+  EXPECT_EQ(DateiLesen(ordner / "fehlt").status, Lesestatus::Fehlt);
+  EXPECT_EQ(DateiLesen(ordner / "lang/fehlt").status, Lesestatus::Fehlt);
+  EXPECT_EQ(DateiLesen(ordner / "leer").status, Lesestatus::Gelesen);
+  EXPECT_EQ(DateiLesen(ordner.pfad).grund, "Unter diesem Namen gibt es ein Verzeichnis.");
+  EXPECT_EQ(DateiLesen(ordner / "rohr").status, Lesestatus::Fehler);
+  EXPECT_EQ(DateiLesen("/dev/zero").status, Lesestatus::Fehler);
+  for (const std::size_t grenze : {999U, 1000U, 1001U}) {
+    const Gelesen gelesen = DateiLesen(ordner / "lang", grenze);
+    EXPECT_EQ(gelesen.bytes.size(), std::min<std::size_t>(grenze, 1000));
+    EXPECT_EQ(gelesen.abgeschnitten, grenze < 1000);
+  }
+}
+
+TEST(Dateien, FreierAltname) {
+  const Ordner ordner;
+  EXPECT_EQ(FreierAltname(ordner / "user.dat"), ordner / "user-alt.dat");
+  Anlegen(ordner / "user-alt.dat", "");
+  fs::create_symlink("nirgends", ordner / "user-alt2.dat");
+  EXPECT_EQ(FreierAltname(ordner / "user.dat"), ordner / "user-alt3.dat");
+}
+
+using Ausgang = Dateistand::Ausgang;
+
+TEST(Dateistand, ZweiProgrammeAnEinerDatei) {
+  const Ordner ordner;
+  const fs::path pfad = ordner / "user.dat";
+  Anlegen(pfad, "0");
+  Dateistand a;
+  Dateistand b;
+  EXPECT_EQ(a.Lesen(pfad).bytes, "0");
+  EXPECT_FALSE(a.AnderswoOffen());
+  b.Lesen(pfad);
+  EXPECT_TRUE(b.AnderswoOffen());
+  EXPECT_TRUE(b.AndereArbeitenAn(pfad));
+  EXPECT_FALSE(a.AndereArbeitenAn(pfad));
+  a.Lesen(pfad);
+  EXPECT_FALSE(a.AnderswoOffen()) << "one's own lock does not count";
+
+  EXPECT_EQ(a.Schreiben(pfad, "a").ausgang, Ausgang::Geschrieben);
+  EXPECT_TRUE(b.AndereArbeitenAn(pfad)) << "the lock goes over to the new file";
+  EXPECT_EQ(b.Schreiben(pfad, "b").ausgang, Ausgang::FremdGeaendert);
+  EXPECT_EQ(Inhalt(pfad), "a");
+  EXPECT_EQ(b.Schreiben(pfad, "b", true).ausgang, Ausgang::Geschrieben);
+  EXPECT_EQ(b.Schreiben(pfad, "bb").ausgang, Ausgang::Geschrieben);
+  EXPECT_EQ(a.Schreiben(pfad, "a").ausgang, Ausgang::FremdGeaendert);
+  EXPECT_EQ(a.Schreiben(pfad, "bb").ausgang, Ausgang::Geschrieben) << "the same content loses nothing";
+}
+
+TEST(Dateistand, WasDieDateiSeitherWurde) {
+  const Ordner ordner;
+  const fs::path pfad = ordner / "user.dat";
+  Dateistand stand;
+  EXPECT_EQ(stand.Lesen(pfad).status, Lesestatus::Fehlt);
+  Anlegen(pfad, "fremd");
+  EXPECT_EQ(stand.Schreiben(pfad, "neu").ausgang, Ausgang::FremdGeaendert) << "came into being";
+  fs::remove(pfad);
+  EXPECT_EQ(stand.Schreiben(pfad, "neu").ausgang, Ausgang::Geschrieben);
+  fs::last_write_time(pfad, fs::file_time_type::clock::now());
+  EXPECT_EQ(stand.Schreiben(pfad, "neuer").ausgang, Ausgang::Geschrieben) << "only touched";
+  fs::remove(pfad);
+  EXPECT_EQ(stand.Schreiben(pfad, "wieder da").ausgang, Ausgang::Geschrieben) << "vanished";
+  Anlegen(ordner / "andere.dat", "x");
+  EXPECT_EQ(stand.Schreiben(ordner / "andere.dat", "y").ausgang, Ausgang::FremdGeaendert) << "never read";
+}
+
+TEST(Dateistand, EinAbsturzHinterlaesstKeineSperre) {
+  const Ordner ordner;
+  const fs::path pfad = ordner / "user.dat";
+  Anlegen(pfad, "0");
+  ImKind([&] {
+    Dateistand kind;
+    kind.Lesen(pfad);
+    kind.Schreiben(pfad, "1");
+    kill(getpid(), SIGKILL);
+    return 0;
+  });
+  Dateistand stand;
+  stand.Lesen(pfad);
+  EXPECT_FALSE(stand.AnderswoOffen());
+}
+
+TEST(Dateistand, GleichzeitigesSpeichernVerliertNichts) {
+  const Ordner ordner;
+  const fs::path pfad = ordner / "zahl";
+  Anlegen(pfad, "0");
+  const auto hundertmalPlusEins = [&](const char* wer) {
+    for (int i = 0; i < 100;) {
+      Dateistand stand;
+      const int zahl = std::stoi(stand.Lesen(pfad).bytes);
+      const Ausgang ausgang = stand.Schreiben(pfad, std::to_string(zahl + 1) + wer).ausgang;
+      if (ausgang == Ausgang::Fehler) _exit(1);
+      if (ausgang == Ausgang::Geschrieben) ++i;
+    }
+  };
+  const pid_t kind = fork();
+  if (kind == 0) {
+    hundertmalPlusEins(" Kind");
+    _exit(0);
+  }
+  hundertmalPlusEins(" Mutter");
+  int zustand = 0;
+  waitpid(kind, &zustand, 0);
+  EXPECT_EQ(zustand, 0);
+  EXPECT_EQ(std::stoi(Inhalt(pfad)), 200);
+}
+
+}  // namespace
+}  // namespace vesk
