@@ -8,7 +8,16 @@ namespace {
 
 // The carriage return of CR LF counts as a blank before the line feed.
 constexpr std::string_view Leerzeichen = " \t\r";
-constexpr std::string_view Trenner = ",\n";
+
+bool IstTrenner(char zeichen) {
+  return zeichen == ',' || zeichen == '\n';
+}
+
+/// The next separator from `ab` on, or the end.
+std::size_t Trennstelle(std::string_view text, std::size_t ab) {
+  const auto* anfang = text.begin() + static_cast<std::ptrdiff_t>(ab);
+  return static_cast<std::size_t>(std::find_if(anfang, text.end(), IstTrenner) - text.begin());
+}
 
 std::string_view OhneLeerzeichenAmEnde(std::string_view text, std::string_view zeichen) {
   return text.substr(0, text.find_last_not_of(zeichen) + 1);
@@ -17,7 +26,7 @@ std::string_view OhneLeerzeichenAmEnde(std::string_view text, std::string_view z
 /// Whether nothing but blanks stands between `ab` and the next separator or the end.
 bool GleichTrenner(std::string_view text, std::size_t ab) {
   const std::size_t platz = text.find_first_not_of(Leerzeichen, ab);
-  return platz == std::string_view::npos || Trenner.find(text[platz]) != std::string_view::npos;
+  return platz == std::string_view::npos || IstTrenner(text[platz]);
 }
 
 }  // namespace
@@ -28,7 +37,7 @@ std::optional<std::string_view> Itemleser::Naechstes() {
   if (AmEnde()) return std::nullopt;
   rest_.remove_prefix(std::min(rest_.find_first_not_of(Leerzeichen), rest_.size()));
   if (!rest_.empty() && rest_.front() == '"') return Gequotetes();
-  const std::size_t trenner = std::min(rest_.find_first_of(Trenner), rest_.size());
+  const std::size_t trenner = Trennstelle(rest_, 0);
   const std::string_view item = rest_.substr(0, trenner);
   BisNachTrenner(trenner);
   return OhneLeerzeichenAmEnde(item, Leerzeichen);
@@ -37,9 +46,9 @@ std::optional<std::string_view> Itemleser::Naechstes() {
 std::string_view Itemleser::Gequotetes() {
   const std::string_view text = rest_.substr(1);
   const std::size_t quote = text.find('"');
-  const std::size_t zeilenende = text.find('\n');
+  const std::size_t zeilenende = text.substr(0, quote).find('\n');
   bool geschlossen = quote != std::string_view::npos;
-  if (geschlossen && zeilenende < quote) {
+  if (geschlossen && zeilenende != std::string_view::npos) {
     // A quote at the head of a later line with text behind it opens that line's item.
     const std::size_t davor = text.find_last_not_of(Leerzeichen, quote - 1);
     geschlossen = text[davor] != '\n' || GleichTrenner(text, quote + 1);
@@ -51,8 +60,7 @@ std::string_view Itemleser::Gequotetes() {
 }
 
 void Itemleser::BisNachTrenner(std::size_t ab) {
-  const std::size_t trenner = rest_.find_first_of(Trenner, ab);
-  rest_.remove_prefix(trenner == std::string_view::npos ? rest_.size() : trenner + 1);
+  rest_.remove_prefix(std::min(Trennstelle(rest_, ab) + 1, rest_.size()));
 }
 
 }  // namespace vesk
