@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "Datenblattspalte.h"
+#include "Zustand.h"
 
 namespace vesk {
 
@@ -14,6 +15,7 @@ class OptionenUmgebung {
 
   /// "Optionen berücksichtigen" (chkOptionen) of the data sheet.
   virtual bool OptionenBeruecksichtigen() const = 0;
+  virtual void OptionenBeruecksichtigenSetzen(bool an) = 0;
   /// mnuMeldungen of the main window.
   virtual bool MeldungenAn() const = 0;
   /// mnuAFu of the main window.
@@ -37,5 +39,15 @@ class OptionenUmgebung {
   /// Takes the current data-sheet column into the calculation without reloading the options.
   virtual void SpalteUebernehmen() = 0;
 };
+
+/// What follows every change of an option: the main window's calculation, or that of the current column when
+/// the data sheet takes options into account.
+inline void Neurechnen(const Zustand& zustand, OptionenUmgebung& umgebung) {
+  if (zustand.werte.Spalte == 0) {
+    umgebung.Berechnen(true);
+  } else if (umgebung.OptionenBeruecksichtigen()) {
+    umgebung.SpalteUebernehmen();
+  }
+}
 
 }  // namespace vesk
