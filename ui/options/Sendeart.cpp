@@ -91,7 +91,8 @@ Sendeartkreuze ModulationsArtAnkreuzen(std::string_view zelle) {
   const bool alle = Enthaelt(text, SchluesselAlle);
   Sendeartkreuze kreuze{};
   for (std::size_t i = 0; i < Schluessel.size(); ++i) {
-    kreuze.at(i) = alle || Enthaelt(text, Schluessel.at(i).sendungsart) || Enthaelt(text, Schluessel.at(i).name);
+    kreuze.at(i) =
+        alle || Enthaelt(text, Schluessel.at(i).sendungsart) || Enthaelt(text, Schluessel.at(i).name);
   }
   return kreuze;
 }

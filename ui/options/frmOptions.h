@@ -24,7 +24,8 @@ struct Zustand;
 ///       void SatzSchreiben(Datenblattspalte& satz) const;  // controls -> record
 ///
 /// - The constructor builds the controls with their fixed captions and does nothing else: no box, no file.
-/// - Laden() runs once, from frmOptions::Laden(), in the order Kabel, Antennen, Winkel. It reads the catalogue
+/// - Laden() runs once, from frmOptions::Laden(), in the order Kabel, Antennen, Winkel. It reads the
+/// catalogue
 ///   and may show boxes. Of the angle tab it sets the file name "Winkel.ang" and txtWDaempfung_0 to "0".
 /// - SatzLaden() fills the tab's fields from a column's record; no handler runs, nothing is calculated, no
 ///   record is written. SatzSchreiben() is its inverse and touches the tab's own positions only.
@@ -62,17 +63,17 @@ class frmOptions : public QMainWindow {
 
  private:
   void MenueBauen();
-  QAction* Eintrag(QMenu& menue, const QString& name, const QString& text);
-  QAction* Druckeintrag(QMenu& menue, const QString& name, const QString& text);
+  QAction* Eintrag(const QString& name, const QString& text);
+  void Druckeintrag(const QString& name, const QString& text);
+  /// The file menu belongs to the angle tab alone.
+  void ReiterGewechselt(int reiter);
 
   Zustand& zustand_;
-  Plattform& plattform_;
   OptionenUmgebung& umgebung_;
 
   QTabWidget* SSTab1;
   SendeartTab* sendeart_;
   QMenu* mnuDatei;
-  QAction* mnuFenster;
 };
 
 }  // namespace vesk

@@ -1,0 +1,133 @@
+#include "frmOptions.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QTabWidget>
+
+#include "Datenblatt.h"
+#include "Laufzeitfehler.h"
+#include "OptionenHilfe.h"
+#include "OptionenUmgebung.h"
+#include "SendeartTab.h"
+#include "Zustand.h"
+
+namespace vesk {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int WinkelSeite = 3;
+
+/// A tab page that scrolls on a screen too small for it.
+QScrollArea* Rollbar(QWidget* seite) {
+  auto* flaeche = new QScrollArea;
+  flaeche->setWidgetResizable(true);
+  flaeche->setFrameShape(QFrame::NoFrame);
+  flaeche->setFocusPolicy(Qt::NoFocus);
+  flaeche->setWidget(seite);
+  return flaeche;
+}
+
+}  // namespace
+
+frmOptions::frmOptions(Zustand& zustand, Plattform& plattform, OptionenUmgebung& umgebung, QWidget* eltern)
+    : QMainWindow(eltern), zustand_(zustand), umgebung_(umgebung) {
+  setObjectName(u"frmOptions"_s);
+  setWindowTitle(u"Optionen"_s);
+  SSTab1 = new QTabWidget(this);
+  SSTab1->setObjectName(u"SSTab1"_s);
+  sendeart_ = new SendeartTab(zustand, plattform, umgebung);
+  SSTab1->addTab(Rollbar(sendeart_), u"Sendeart"_s);
+  SSTab1->addTab(Rollbar(new QWidget), u"Kabel"_s);
+  SSTab1->addTab(Rollbar(new QWidget), u"Antennen"_s);
+  SSTab1->addTab(Rollbar(new QWidget), u"Winkel"_s);
+  setCentralWidget(SSTab1);
+  MenueBauen();
+  connect(SSTab1, &QTabWidget::currentChanged, this, &frmOptions::ReiterGewechselt);
+  ReiterGewechselt(SSTab1->currentIndex());
+  OptionenHilfenummern(*this);
+}
+
+void frmOptions::MenueBauen() {
+  mnuDatei = menuBar()->addMenu(u"&Datei"_s);
+  mnuDatei->menuAction()->setObjectName(u"mnuDatei"_s);
+  mnuDatei->setToolTipsVisible(true);
+  Eintrag(u"mnuWinkelLaden"_s, u"Daten &laden"_s);
+  Eintrag(u"mnuWinkelSpeichern"_s, u"Daten &Speichern"_s);
+  Eintrag(u"mnuWinkelUnter"_s, u"Daten speichern &Unter"_s);
+  Eintrag(u"mnuWDelete"_s, u"Daten &Löschen"_s);
+  Eintrag(u"mnuWNoChange"_s, u"Änderungen &Rückgängig machen"_s);
+  mnuDatei->addSeparator();
+  Druckeintrag(u"mnuWDruck"_s, u"Daten Drucken &ohne HSM"_s);
+  Druckeintrag(u"mnuWHSM306"_s, u"Daten Drucken HSM &306"_s);
+  Druckeintrag(u"mnuWHSMvde"_s, u"Daten Drucken HSM &VDE"_s);
+  mnuDatei->addSeparator();
+  Eintrag(u"mnuWinkelBeispiel"_s, u"&Beispiel"_s);
+
+  QAction* fenster = menuBar()->addAction(u"&Fenster Schließen"_s);
+  fenster->setObjectName(u"mnuFenster"_s);
+  connect(fenster, &QAction::triggered, this, &QWidget::hide);
+}
+
+QAction* frmOptions::Eintrag(const QString& name, const QString& text) {
+  QAction* eintrag = mnuDatei->addAction(text);
+  eintrag->setObjectName(name);
+  return eintrag;
+}
+
+void frmOptions::Druckeintrag(const QString& name, const QString& text) {
+  QAction* eintrag = Eintrag(name, text);
+  eintrag->setEnabled(false);
+  eintrag->setToolTip(u"Das Drucken kommt mit einer späteren Version."_s);
+}
+
+void frmOptions::ReiterGewechselt(int reiter) {
+  mnuDatei->menuAction()->setEnabled(reiter == WinkelSeite);
+}
+
+void frmOptions::Laden() {
+  zustand_.Datenblattspalten.front() = LeereSpalte();
+  sendeart_->Laden();
+  sendeart_->Vorbelegen();
+}
+
+void frmOptions::Startfaktoren() {
+  sendeart_->Startfaktoren();
+}
+
+void frmOptions::SatzLaden() {
+  const auto spalte = static_cast<std::size_t>(zustand_.werte.Spalte);
+  if (spalte >= zustand_.Datenblattspalten.size()) throw Laufzeitfehler(Fehlerart::Index);
+  // A copy: the tabs write to the records while they load.
+  const Datenblattspalte satz = zustand_.Datenblattspalten.at(spalte);
+  sendeart_->SatzLaden(satz);
+}
+
+void frmOptions::ArbeitssatzAuffrischen() {
+  sendeart_->SatzSchreiben(zustand_.Datenblattspalten.front());
+}
+
+void frmOptions::Anwenden() {
+  if (zustand_.werte.Spalte == 0) {
+    umgebung_.Berechnen(true);
+  } else {
+    umgebung_.SpalteUebernehmen();
+  }
+}
+
+QString frmOptions::GewaehlteSendearten() const {
+  return sendeart_->GewaehlteSendearten();
+}
+
+void frmOptions::closeEvent(QCloseEvent* ereignis) {
+  // The window keeps its state; leaving it by its frame also says that columns go without its options.
+  ereignis->ignore();
+  hide();
+  umgebung_.OptionenBeruecksichtigenSetzen(false);
+}
+
+}  // namespace vesk
