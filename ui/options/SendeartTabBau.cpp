@@ -1,13 +1,13 @@
+#include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QVBoxLayout>
+#include <utility>
 
 #include "Plattform.h"
 #include "SendeartTab.h"
@@ -38,17 +38,17 @@ QGroupBox* Rahmen(const QString& name, const QString& titel, QWidget* eltern) {
   return rahmen;
 }
 
-/// One button per name, in a column inside the frame, as control array `feld`.
+/// One button per name, in a row or column inside the frame, as control array `feld`.
 template <typename Knopf, std::size_t N>
-void Reihe(QGroupBox& rahmen, const QString& feld, const std::array<QStringView, N>& namen,
-           std::array<Knopf*, N>& knoepfe) {
-  auto* spalte = new QVBoxLayout(&rahmen);
+void Reihe(QGroupBox& rahmen, QBoxLayout::Direction richtung, const QString& feld,
+           const std::array<QStringView, N>& namen, std::array<Knopf*, N>& knoepfe) {
+  auto* reihe = new QBoxLayout(richtung, &rahmen);
   for (std::size_t i = 0; i < N; ++i) {
     knoepfe.at(i) = new Knopf(namen.at(i).toString(), &rahmen);
     knoepfe.at(i)->setObjectName(feld + u'_' + QString::number(i));
-    spalte->addWidget(knoepfe.at(i));
+    reihe->addWidget(knoepfe.at(i));
   }
-  spalte->addStretch();
+  reihe->addStretch();
 }
 
 QLabel* Beschriftung(const QString& name, const QString& text, QLineEdit& feld) {
@@ -74,7 +74,7 @@ SendeartTab::SendeartTab(Zustand& zustand, Plattform& plattform, OptionenUmgebun
 
 void SendeartTab::SendeartenBauen() {
   rhmModulationsart = Rahmen(u"rhmModulationsart"_s, u"Modulationsart"_s, this);
-  Reihe(*rhmModulationsart, u"chkBetriebsart"_s, SendeartNamen, chkBetriebsart);
+  Reihe(*rhmModulationsart, QBoxLayout::TopToBottom, u"chkBetriebsart"_s, SendeartNamen, chkBetriebsart);
 
   txtSelectedModes = new QLineEdit(this);
   txtSelectedModes->setObjectName(u"txtSelectedModes"_s);
@@ -91,7 +91,7 @@ void SendeartTab::SendeartenBauen() {
 
 void SendeartTab::ZyklusBauen() {
   rhmCycle = Rahmen(u"rhmCycle"_s, u"Sende/Empfangs- Zyklus"_s, this);
-  Reihe(*rhmCycle, u"optDuty"_s, ZyklusNamen, optDuty);
+  Reihe(*rhmCycle, QBoxLayout::TopToBottom, u"optDuty"_s, ZyklusNamen, optDuty);
   zyklen_ = new QButtonGroup(this);
   for (QRadioButton* knopf : optDuty) zyklen_->addButton(knopf);
 }
@@ -99,15 +99,15 @@ void SendeartTab::ZyklusBauen() {
 void SendeartTab::GrenzwerttypBauen() {
   rhmBetriebsart =
       Rahmen(u"rhmBetriebsart"_s, u"Berechnung für Grenzwerttyp (nur für VDE 0848 Teil 3-1)"_s, this);
-  Reihe(*rhmBetriebsart, u"optSSB"_s, TypNamen, optSSB);
+  Reihe(*rhmBetriebsart, QBoxLayout::LeftToRight, u"optSSB"_s, TypNamen, optSSB);
 }
 
 void SendeartTab::Anordnen() {
   auto* gitter = new QGridLayout(this);
   gitter->addWidget(lblMod1, 0, 0, 1, 2);
-  gitter->addWidget(rhmModulationsart, 1, 0, 2, 1);
+  gitter->addWidget(rhmModulationsart, 1, 0);
   gitter->addWidget(rhmCycle, 1, 1);
-  gitter->addWidget(rhmBetriebsart, 2, 1);
+  gitter->addWidget(rhmBetriebsart, 2, 0, 1, 2);
 
   const int ziffer = fontMetrics().horizontalAdvance(u'0');
   txtFaktorB->setFixedWidth(9 * ziffer);

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
 
@@ -22,15 +23,17 @@ namespace {
 
 constexpr int WinkelSeite = 3;
 
-/// A tab page that scrolls on a screen too small for it.
-QScrollArea* Rollbar(QWidget* seite) {
-  auto* flaeche = new QScrollArea;
-  flaeche->setWidgetResizable(true);
-  flaeche->setFrameShape(QFrame::NoFrame);
-  flaeche->setFocusPolicy(Qt::NoFocus);
-  flaeche->setWidget(seite);
-  return flaeche;
-}
+/// A tab page that scrolls on a screen too small for it, and is else as large as its contents.
+class Seite : public QScrollArea {
+ public:
+  explicit Seite(QWidget* inhalt) {
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(inhalt);
+  }
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+};
 
 }  // namespace
 
@@ -41,10 +44,10 @@ frmOptions::frmOptions(Zustand& zustand, Plattform& plattform, OptionenUmgebung&
   SSTab1 = new QTabWidget(this);
   SSTab1->setObjectName(u"SSTab1"_s);
   sendeart_ = new SendeartTab(zustand, plattform, umgebung);
-  SSTab1->addTab(Rollbar(sendeart_), u"Sendeart"_s);
-  SSTab1->addTab(Rollbar(new QWidget), u"Kabel"_s);
-  SSTab1->addTab(Rollbar(new QWidget), u"Antennen"_s);
-  SSTab1->addTab(Rollbar(new QWidget), u"Winkel"_s);
+  SSTab1->addTab(new Seite(sendeart_), u"Sendeart"_s);
+  SSTab1->addTab(new Seite(new QWidget), u"Kabel"_s);
+  SSTab1->addTab(new Seite(new QWidget), u"Antennen"_s);
+  SSTab1->addTab(new Seite(new QWidget), u"Winkel"_s);
   setCentralWidget(SSTab1);
   MenueBauen();
   connect(SSTab1, &QTabWidget::currentChanged, this, &frmOptions::ReiterGewechselt);
@@ -93,6 +96,8 @@ void frmOptions::Laden() {
   zustand_.Datenblattspalten.front() = LeereSpalte();
   sendeart_->Laden();
   sendeart_->Vorbelegen();
+  // Room for the largest tab; the desktop's own bars and the window's frame need a little, too.
+  resize(sizeHint().boundedTo(screen()->availableSize() * 0.95));
 }
 
 void frmOptions::Startfaktoren() {
