@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "Rechenwerte.h"
+#include "Hinweise.h"
 
 namespace vesk {
 
@@ -53,5 +53,8 @@ Zykluswahl ZyklusAusText(std::string_view text);
 
 /// A stored factor. What cannot reduce a power (0 or less, above 1, no number) counts as full power.
 float FaktorAusText(std::string_view text);
+
+/// A factor below 1 obliges the operator.
+Hinweis FaktorHinweis();
 
 }  // namespace vesk

@@ -2,7 +2,6 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,7 +9,7 @@
 
 #include "Datenblattspalte.h"
 #include "Farben.h"
-#include "Fehlerbox.h"
+#include "Meldung.h"
 #include "OptionenUmgebung.h"
 #include "Plattform.h"
 #include "Spaltensatz.h"
@@ -131,15 +130,7 @@ void SendeartTab::GrenzwerttypSetzen(std::int16_t typ) {
 
 void SendeartTab::WarnMeldungFaktor() {
   if (!umgebung_.MeldungenAn() || zustand_.einstellungen.FaktorMeldungAus) return;
-  const Antwort antwort = BoxZeigen(plattform_.boxen, zustand_.werte,
-                                    {.titel = u"Faktor für vorgesehene Sendeart <1"_s,
-                                     .text = u"Für die Sendeart wurde ein Faktor <1 ermittelt!\n"
-                                             "Wenn im Antrag mit diesem Faktor gerechnet wird, \n"
-                                             "darf er beim Funkbetrieb nicht überschritten werden!\n"
-                                             "\n"
-                                             "Diese Meldung in Zukunft wieder anzeigen?"_s,
-                                     .symbol = Symbol::Ausrufezeichen,
-                                     .knoepfe = Knoepfe::JaNein});
+  const Antwort antwort = Zeigen(plattform_.boxen, zustand_.werte, FaktorHinweis());
   zustand_.einstellungen.FaktorMeldungAus = antwort != Antwort::Ja;
 }
 
@@ -195,12 +186,6 @@ void SendeartTab::SatzSchreiben(Datenblattspalte& satz) const {
 
 QString SendeartTab::GewaehlteSendearten() const {
   return txtSelectedModes->text();
-}
-
-bool SendeartTab::eventFilter(QObject* objekt, QEvent* ereignis) {
-  // What is typed here is never read; when the field is left it shows the factor in force again.
-  if (objekt == txtFaktorB && ereignis->type() == QEvent::FocusOut) FaktorZeigen();
-  return QWidget::eventFilter(objekt, ereignis);
 }
 
 }  // namespace vesk

@@ -36,9 +36,6 @@ class SendeartTab : public QWidget {
   void SatzSchreiben(Datenblattspalte& satz) const;
   QString GewaehlteSendearten() const;
 
- protected:
-  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
-
  private:
   void SendeartenBauen();
   void ZyklusBauen();

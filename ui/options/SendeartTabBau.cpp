@@ -85,7 +85,6 @@ void SendeartTab::SendeartenBauen() {
   txtFaktorB = new Zahlenfeld(zustand_.werte, plattform_.ton, this);
   txtFaktorB->setObjectName(u"txtFaktorB"_s);
   txtFaktorB->setAccessibleName(u"Faktor für Sendeart"_s);
-  txtFaktorB->installEventFilter(this);
   lblFaktorB = Beschriftung(u"lblFaktorB"_s, u"Faktor für Sendeart: "_s, *txtFaktorB);
 }
 
@@ -143,6 +142,8 @@ void SendeartTab::Verbinden() {
   for (std::size_t i = 0; i < optSSB.size(); ++i) {
     connect(optSSB.at(i), &QRadioButton::clicked, this, [this, i] { GrenzwerttypGeklickt(int(i)); });
   }
+  // What is typed here is never read; left alone, the field shows the factor in force again.
+  connect(txtFaktorB, &Zahlenfeld::verlassen, this, &SendeartTab::FaktorZeigen);
 }
 
 }  // namespace vesk

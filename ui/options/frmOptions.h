@@ -32,7 +32,7 @@ struct Zustand;
 /// - A tab sits in a scroll area, so it needs a layout but no care for small screens. Focus order within the
 ///   tab is its own. Access keys D and F belong to the menu bar.
 /// - A tab reacts to its user, writes records with FeldSetzen (Spaltensatz.h), catches run-time errors with
-///   Abgefangen (Fehlerbox.h) and ends a change with Neurechnen (OptionenUmgebung.h).
+///   Abgefangen (Meldung.h) and ends a change with Neurechnen (OptionenUmgebung.h).
 /// - What one tab has for another is a signal; this window connects it: AntennenTab::antenneGewaehlt(name,
 ///   gewinn, mhz) to a slot of WinkelTab.
 /// - The menu entries belong to this window and call the angle tab's slots WinkelOeffnen() (mnuWinkelLaden),
