@@ -63,11 +63,13 @@ void frmOptions::MenueBauen() {
   Eintrag(u"mnuWinkelSpeichern"_s, u"Daten &Speichern"_s);
   Eintrag(u"mnuWinkelUnter"_s, u"Daten speichern &Unter"_s);
   Eintrag(u"mnuWDelete"_s, u"Daten &Löschen"_s);
-  Eintrag(u"mnuWNoChange"_s, u"Änderungen &Rückgängig machen"_s);
+  Gesperrt(u"mnuWNoChange"_s, u"Änderungen &Rückgängig machen"_s,
+           u"Die gespeicherte Tabelle kommt mit \"Daten laden\" zurück."_s);
   mnuDatei->addSeparator();
-  Druckeintrag(u"mnuWDruck"_s, u"Daten Drucken &ohne HSM"_s);
-  Druckeintrag(u"mnuWHSM306"_s, u"Daten Drucken HSM &306"_s);
-  Druckeintrag(u"mnuWHSMvde"_s, u"Daten Drucken HSM &VDE"_s);
+  const QString spaeter = u"Das Drucken kommt mit einer späteren Version."_s;
+  Gesperrt(u"mnuWDruck"_s, u"Daten Drucken &ohne HSM"_s, spaeter);
+  Gesperrt(u"mnuWHSM306"_s, u"Daten Drucken HSM &306"_s, spaeter);
+  Gesperrt(u"mnuWHSMvde"_s, u"Daten Drucken HSM &VDE"_s, spaeter);
   mnuDatei->addSeparator();
   Eintrag(u"mnuWinkelBeispiel"_s, u"&Beispiel"_s);
 
@@ -82,10 +84,10 @@ QAction* frmOptions::Eintrag(const QString& name, const QString& text) {
   return eintrag;
 }
 
-void frmOptions::Druckeintrag(const QString& name, const QString& text) {
+void frmOptions::Gesperrt(const QString& name, const QString& text, const QString& grund) {
   QAction* eintrag = Eintrag(name, text);
   eintrag->setEnabled(false);
-  eintrag->setToolTip(u"Das Drucken kommt mit einer späteren Version."_s);
+  eintrag->setToolTip(grund);
 }
 
 void frmOptions::ReiterGewechselt(int reiter) {
@@ -114,14 +116,6 @@ void frmOptions::SatzLaden() {
 
 void frmOptions::ArbeitssatzAuffrischen() {
   sendeart_->SatzSchreiben(zustand_.Datenblattspalten.front());
-}
-
-void frmOptions::Anwenden() {
-  if (zustand_.werte.Spalte == 0) {
-    umgebung_.Berechnen(true);
-  } else {
-    umgebung_.SpalteUebernehmen();
-  }
 }
 
 QString frmOptions::GewaehlteSendearten() const {

@@ -52,8 +52,6 @@ class frmOptions : public QMainWindow {
   /// Brings the working record in line with what the tabs show, so that a copy of it holds the options that
   /// were calculated with.
   void ArbeitssatzAuffrischen();
-  /// Calculates with the options shown: the current column, or the main window's values.
-  void Anwenden();
 
   /// Abbreviations of the ticked modes (txtSelectedModes), for the data sheet.
   QString GewaehlteSendearten() const;
@@ -64,7 +62,8 @@ class frmOptions : public QMainWindow {
  private:
   void MenueBauen();
   QAction* Eintrag(const QString& name, const QString& text);
-  void Druckeintrag(const QString& name, const QString& text);
+  /// An entry without action; its tooltip says why.
+  void Gesperrt(const QString& name, const QString& text, const QString& grund);
   /// The file menu belongs to the angle tab alone.
   void ReiterGewechselt(int reiter);
 
