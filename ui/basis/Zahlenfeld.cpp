@@ -1,15 +1,9 @@
 #include "Zahlenfeld.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QDropEvent>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QMenu>
-#include <QMimeData>
 #include <QMouseEvent>
 
 #include "Plattform.h"
@@ -36,20 +30,16 @@ bool NurUnterbrochen(const QFocusEvent& ereignis) {
 }  // namespace
 
 Zahlenfeld::Zahlenfeld(Rechenwerte& werte, Signalton& ton, QWidget* eltern)
-    : QLineEdit(eltern), werte_(werte), ton_(ton) {}
+    : Filterfeld(eltern), werte_(werte), ton_(ton) {}
 
 void Zahlenfeld::keyPressEvent(QKeyEvent* ereignis) {
-  if (ereignis->matches(QKeySequence::Paste)) {
-    Einfuegen(QApplication::clipboard()->text());
-    return;
-  }
   const QString text = ereignis->text();
   const bool befehl =
       (ereignis->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
   const bool getippt = text.size() == 1 && (text.at(0).isPrint() || text.at(0) == QLatin1Char('\r') ||
                                             ereignis->key() == Qt::Key_Backspace);
   if (befehl || !getippt || isReadOnly()) {
-    QLineEdit::keyPressEvent(ereignis);
+    Filterfeld::keyPressEvent(ereignis);
     return;
   }
   const int code = ereignis->key() == Qt::Key_Backspace ? 8 : text.at(0).unicode();
@@ -58,11 +48,11 @@ void Zahlenfeld::keyPressEvent(QKeyEvent* ereignis) {
   Q_EMIT gefiltert(antwort.zeichen);
   if (antwort.zeichen == 0) return;
   if (antwort.zeichen == code) {
-    QLineEdit::keyPressEvent(ereignis);
+    Filterfeld::keyPressEvent(ereignis);
     return;
   }
   QKeyEvent ersatz(ereignis->type(), antwort.zeichen, ereignis->modifiers(), QString(QChar(antwort.zeichen)));
-  QLineEdit::keyPressEvent(&ersatz);
+  Filterfeld::keyPressEvent(&ersatz);
 }
 
 void Zahlenfeld::inputMethodEvent(QInputMethodEvent* ereignis) {
@@ -72,50 +62,23 @@ void Zahlenfeld::inputMethodEvent(QInputMethodEvent* ereignis) {
 
 void Zahlenfeld::mousePressEvent(QMouseEvent* ereignis) {
   Q_EMIT gedrueckt();
-  QLineEdit::mousePressEvent(ereignis);
-}
-
-void Zahlenfeld::mouseReleaseEvent(QMouseEvent* ereignis) {
-  if (ereignis->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection()) {
-    Einfuegen(QApplication::clipboard()->text(QClipboard::Selection));
-    return;
-  }
-  QLineEdit::mouseReleaseEvent(ereignis);
+  Filterfeld::mousePressEvent(ereignis);
 }
 
 void Zahlenfeld::mouseDoubleClickEvent(QMouseEvent* ereignis) {
-  QLineEdit::mouseDoubleClickEvent(ereignis);
+  Filterfeld::mouseDoubleClickEvent(ereignis);
   if (ereignis->button() == Qt::LeftButton) Q_EMIT doppelklick();
 }
 
-void Zahlenfeld::contextMenuEvent(QContextMenuEvent* ereignis) {
-  QMenu* menue = createStandardContextMenu();
-  if (menue == nullptr) return;
-  menue->setAttribute(Qt::WA_DeleteOnClose);
-  if (auto* einfuegen = menue->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-    einfuegen->disconnect(SIGNAL(triggered(bool)));
-    connect(einfuegen, &QAction::triggered, this, [this] { Einfuegen(QApplication::clipboard()->text()); });
-  }
-  menue->popup(ereignis->globalPos());
-}
-
-void Zahlenfeld::dropEvent(QDropEvent* ereignis) {
-  if (isReadOnly() || !ereignis->mimeData()->hasText()) return;
-  setCursorPosition(cursorPositionAt(ereignis->position().toPoint()));
-  Einfuegen(ereignis->mimeData()->text());
-  ereignis->setDropAction(Qt::CopyAction);
-  ereignis->accept();
-}
-
 void Zahlenfeld::focusInEvent(QFocusEvent* ereignis) {
-  QLineEdit::focusInEvent(ereignis);
+  Filterfeld::focusInEvent(ereignis);
   if (betreten_) return;
   betreten_ = true;
   Q_EMIT betreten();
 }
 
 void Zahlenfeld::focusOutEvent(QFocusEvent* ereignis) {
-  QLineEdit::focusOutEvent(ereignis);
+  Filterfeld::focusOutEvent(ereignis);
   if (!betreten_ || NurUnterbrochen(*ereignis)) return;
   betreten_ = false;
   Q_EMIT verlassen();
@@ -133,12 +96,6 @@ QString Zahlenfeld::Filtern(const QString& text) {
   }
   if (piep) ton_.Piep();
   return rest;
-}
-
-void Zahlenfeld::Einfuegen(const QString& text) {
-  if (isReadOnly()) return;
-  const QString rest = Filtern(text);
-  if (!rest.isEmpty()) insert(rest);
 }
 
 }  // namespace vesk

@@ -1,5 +1,5 @@
 #pragma once
-#include <QLineEdit>
+#include "Filterfeld.h"
 
 namespace vesk {
 
@@ -8,7 +8,7 @@ class Signalton;
 
 /// Input field whose typed and pasted characters pass the key filter, one by one and exactly once.
 /// Comma becomes a point, what the filter swallows is not entered and beeps.
-class Zahlenfeld : public QLineEdit {
+class Zahlenfeld : public Filterfeld {
   Q_OBJECT
  public:
   Zahlenfeld(Rechenwerte& werte, Signalton& ton, QWidget* eltern = nullptr);
@@ -30,17 +30,12 @@ class Zahlenfeld : public QLineEdit {
   void keyPressEvent(QKeyEvent* ereignis) override;
   void inputMethodEvent(QInputMethodEvent* ereignis) override;
   void mousePressEvent(QMouseEvent* ereignis) override;
-  void mouseReleaseEvent(QMouseEvent* ereignis) override;
   void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
-  void contextMenuEvent(QContextMenuEvent* ereignis) override;
-  void dropEvent(QDropEvent* ereignis) override;
   void focusInEvent(QFocusEvent* ereignis) override;
   void focusOutEvent(QFocusEvent* ereignis) override;
+  QString Filtern(const QString& text) override;
 
  private:
-  QString Filtern(const QString& text);
-  void Einfuegen(const QString& text);
-
   bool betreten_ = false;
   Rechenwerte& werte_;
   Signalton& ton_;

@@ -1,0 +1,72 @@
+#include "Filterfeld.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
+
+namespace vesk {
+
+void Filterfeld::keyPressEvent(QKeyEvent* ereignis) {
+  if (ereignis->matches(QKeySequence::Paste)) {
+    Einfuegen(QGuiApplication::clipboard()->text());
+    return;
+  }
+  QLineEdit::keyPressEvent(ereignis);
+}
+
+void Filterfeld::inputMethodEvent(QInputMethodEvent* ereignis) {
+  if (ereignis->commitString().isEmpty()) {
+    QLineEdit::inputMethodEvent(ereignis);
+    return;
+  }
+  QInputMethodEvent gefiltert(ereignis->preeditString(), ereignis->attributes());
+  gefiltert.setCommitString(Filtern(ereignis->commitString()), ereignis->replacementStart(),
+                            ereignis->replacementLength());
+  QLineEdit::inputMethodEvent(&gefiltert);
+}
+
+void Filterfeld::mouseReleaseEvent(QMouseEvent* ereignis) {
+  if (ereignis->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
+    Einfuegen(QGuiApplication::clipboard()->text(QClipboard::Selection));
+    return;
+  }
+  QLineEdit::mouseReleaseEvent(ereignis);
+}
+
+void Filterfeld::contextMenuEvent(QContextMenuEvent* ereignis) {
+  QMenu* menue = createStandardContextMenu();
+  if (menue == nullptr) return;
+  menue->setAttribute(Qt::WA_DeleteOnClose);
+  // The toolkit gives its entries no names; only the text of its own catalogue tells which one pastes.
+  const QString beschriftung = QLineEdit::tr("&Paste");
+  const QList<QAction*> aktionen = menue->actions();
+  for (QAction* aktion : aktionen) {
+    if (!aktion->text().startsWith(beschriftung)) continue;
+    disconnect(aktion, nullptr, this, nullptr);
+    connect(aktion, &QAction::triggered, this, [this] { Einfuegen(QGuiApplication::clipboard()->text()); });
+  }
+  menue->popup(ereignis->globalPos());
+}
+
+void Filterfeld::dropEvent(QDropEvent* ereignis) {
+  if (isReadOnly() || !ereignis->mimeData()->hasText()) return;
+  setCursorPosition(cursorPositionAt(ereignis->position().toPoint()));
+  Einfuegen(ereignis->mimeData()->text());
+  ereignis->setDropAction(Qt::CopyAction);
+  ereignis->accept();
+}
+
+void Filterfeld::Einfuegen(const QString& text) {
+  if (isReadOnly()) return;
+  const QString rest = Filtern(text);
+  if (!rest.isEmpty()) insert(rest);
+}
+
+}  // namespace vesk

@@ -1,0 +1,27 @@
+#pragma once
+#include "Filterfeld.h"
+
+namespace vesk {
+
+class Signalton;
+
+/// Input field for free text that goes into the user's file: it takes what Windows-1252 can write except the
+/// double quote, which encloses the texts there. Anything else is refused with a beep; line breaks and tabs
+/// of a pasted text become blanks.
+class Textfeld : public Filterfeld {
+  Q_OBJECT
+ public:
+  explicit Textfeld(Signalton& ton, QWidget* eltern = nullptr);
+
+  /// A comma that the user enters becomes a point.
+  bool kommaWirdPunkt = false;
+
+ protected:
+  void keyPressEvent(QKeyEvent* ereignis) override;
+  QString Filtern(const QString& text) override;
+
+ private:
+  Signalton& ton_;
+};
+
+}  // namespace vesk
