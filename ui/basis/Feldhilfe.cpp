@@ -7,36 +7,45 @@ namespace vesk {
 
 namespace {
 
-/// Runs `tun` for the control of that name, or for every element of the control array of that name.
-template <typename Tun>
-void JeControl(QWidget& fenster, QStringView name, Tun tun) {
-  const QString einzeln = name.toString();
-  const QString feld = einzeln + QLatin1Char('_');
-  for (QWidget* kind : fenster.findChildren<QWidget*>()) {
-    const QString kindname = kind->objectName();
-    if (kindname != einzeln) {
-      if (!kindname.startsWith(feld)) continue;
-      bool zahl = false;
-      static_cast<void>(QStringView(kindname).mid(feld.size()).toInt(&zahl));
-      if (!zahl) continue;
-    }
-    tun(*kind);
+/// An object name and, for an element of a control array, its array and index.
+struct Controlname {
+  explicit Controlname(const QString& name) : ganz(name) {
+    const qsizetype strich = ganz.lastIndexOf(u'_');
+    if (strich < 0) return;
+    bool zahl = false;
+    const int stelle = QStringView(ganz).mid(strich + 1).toInt(&zahl);
+    if (!zahl) return;
+    feld = QStringView(ganz).left(strich);
+    index = stelle;
   }
-}
+  bool Heisst(QStringView name, int teiler, int rest) const {
+    return name == ganz || (name == feld && index % teiler == rest);
+  }
+
+  QString ganz;
+  QStringView feld;
+  int index = 0;
+};
 
 }  // namespace
 
 void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool an) {
-  for (const Feldhilfe& zeile : tabelle) {
-    JeControl(fenster, zeile.name,
-              [&](QWidget& kind) { kind.setToolTip(an ? zeile.text.toString() : QString()); });
+  for (QWidget* kind : fenster.findChildren<QWidget*>()) {
+    const Controlname name(kind->objectName());
+    for (const Feldhilfe& zeile : tabelle) {
+      if (name.Heisst(zeile.name, zeile.teiler, zeile.rest)) {
+        kind->setToolTip(an ? zeile.text.toString() : QString());
+      }
+    }
   }
 }
 
 void HilfenummernSetzen(QWidget& fenster, std::span<const Hilfenummer> tabelle) {
-  for (const Hilfenummer& zeile : tabelle) {
-    JeControl(fenster, zeile.name,
-              [&](QWidget& kind) { kind.setProperty(HilfekontextEigenschaft, zeile.kontext); });
+  for (QWidget* kind : fenster.findChildren<QWidget*>()) {
+    const Controlname name(kind->objectName());
+    for (const Hilfenummer& zeile : tabelle) {
+      if (name.Heisst(zeile.name, 1, 0)) kind->setProperty(HilfekontextEigenschaft, zeile.kontext);
+    }
   }
 }
 

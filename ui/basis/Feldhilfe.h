@@ -7,10 +7,13 @@ class QWidget;
 namespace vesk {
 
 /// One row of a window's tooltip table. `name` is an object name; of a control array the name before "_",
-/// then every element gets the text.
+/// then every element gets the text. In a grid, of which one index runs through all cells, `teiler` and
+/// `rest` pick the elements whose index leaves that remainder.
 struct Feldhilfe {
   QStringView name;
   QStringView text;
+  int teiler = 1;
+  int rest = 0;
 };
 
 /// Writes the table's texts to the controls of `fenster`, or empties exactly those tooltips.
