@@ -1,5 +1,6 @@
 #include "Datenblatt.h"
 
+#include "Laufzeitfehler.h"
 #include "Zahlen.h"
 
 namespace vesk {
@@ -13,9 +14,17 @@ bool SpalteFrei(const Datenblattzellen& zellen, std::int16_t spalte) {
 
 std::string NaechsteFreieSpalte(const Datenblattzellen& zellen) {
   for (std::int16_t spalte = 1; spalte <= AnzahlSpalten; ++spalte) {
-    if (SpalteFrei(zellen, spalte)) return std::string(1, static_cast<char>('A' + spalte - 1));
+    if (SpalteFrei(zellen, spalte)) return std::string(1, Spaltenbuchstabe(spalte));
   }
   return {};
+}
+
+float Spaltenfaktor(const Datenblattspalte& spalte) {
+  try {
+    return Zahl(spalte.Modulationsfaktor) * Zahl(spalte.Zyklusfaktor);
+  } catch (const Laufzeitfehler&) {
+    return 1.0F;
+  }
 }
 
 Datenblattspalte LeereSpalte() {
