@@ -15,7 +15,7 @@
 #include "Datenblatt.h"
 #include "Datenblatthilfe.h"
 #include "Farben.h"
-#include "Plattform.h"
+#include "Meldung.h"
 #include "Spaltenkopf.h"
 #include "Zahlen.h"
 #include "Zelle.h"
@@ -288,11 +288,8 @@ void frmDatenblatt::KopfDruecken(std::int16_t spalte, Qt::MouseButton taste) {
 
 // --- clearing and copying ---
 
-bool frmDatenblatt::Bestaetigt(const QString& frage) {
-  const Antwort antwort =
-      plattform_.boxen.Zeigen({u"Vesk"_s, frage, Symbol::Frage, Knoepfe::JaNein, Antwort::Nein});
-  zustand_.werte.Antwort = static_cast<std::int16_t>(antwort);
-  return antwort == Antwort::Ja;
+bool frmDatenblatt::Gefragt(const QString& frage) {
+  return Bestaetigt(plattform_.boxen, zustand_.werte, u"Vesk"_s, frage);
 }
 
 /// Texts, records and white, black-lettered cells.
@@ -308,7 +305,7 @@ void frmDatenblatt::SpalteLeeren(std::int16_t spalte) {
 void frmDatenblatt::SpalteLoeschen(char buchstabe) {
   // A refused question counts as a change, too; so the next save writes the file in any case.
   zustand_.UserGeaendert = true;
-  if (!Bestaetigt(u"Spalte "_s + QLatin1Char(buchstabe) + u" wirklich löschen?"_s)) return;
+  if (!Gefragt(u"Spalte "_s + QLatin1Char(buchstabe) + u" wirklich löschen?"_s)) return;
   const auto spalte = std::int16_t(buchstabe - 'A' + 1);
   SpalteLeeren(spalte);
   SpalteToenen(spalte, 1.0F);
@@ -317,7 +314,7 @@ void frmDatenblatt::SpalteLoeschen(char buchstabe) {
 }
 
 bool frmDatenblatt::DatenblattLoeschen() {
-  if (!Bestaetigt(u"Datenblatt wirklich löschen?"_s)) return false;
+  if (!Gefragt(u"Datenblatt wirklich löschen?"_s)) return false;
   for (std::int16_t spalte = 1; spalte <= AnzahlSpalten; ++spalte) SpalteLeeren(spalte);
   zustand_.Datenblattspalten[0] = LeereSpalte();
   zustand_.UserGeaendert = true;

@@ -92,7 +92,7 @@ class frmDatenblatt : public QMainWindow {
   void SpalteLeeren(std::int16_t spalte);
   void SpalteToenen(std::int16_t spalte, float faktor);
   void ModIdxAusSatz();
-  bool Bestaetigt(const QString& frage);
+  bool Gefragt(const QString& frage);
 
   void mnuDelete_Click();
   void mnuSpalteKopieren_Click();
