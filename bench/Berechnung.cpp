@@ -101,5 +101,3 @@ void HSMvdeZweiPotenzen(benchmark::State& lauf) {
 BENCHMARK(HSMvdeZweiPotenzen)->ArgName("Typ")->Arg(GrenzwertAM)->Arg(GrenzwertTV)->Arg(GrenzwertGSM);
 
 }  // namespace
-
-BENCHMARK_MAIN();
