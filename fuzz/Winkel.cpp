@@ -1,0 +1,26 @@
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "Sektoren.h"
+#include "Winkeldatei.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
+  const auto gelesen = vesk::WinkelLesen({reinterpret_cast<const char*>(daten), laenge});
+  const vesk::Winkeldaten tabelle{gelesen.antenne.value_or(""), gelesen.gewinn.value_or(""),
+                                  gelesen.frequenz.value_or(""), gelesen.daempfung};
+
+  // What was written and read again is what was read, apart from characters that the file cannot hold.
+  const std::string geschrieben = vesk::WinkelSchreiben(tabelle);
+  const auto nochmals = vesk::WinkelLesen(geschrieben);
+  if (!nochmals.antenne || !nochmals.gewinn || !nochmals.frequenz) std::abort();
+  const vesk::Winkeldaten zweite{*nochmals.antenne, *nochmals.gewinn, *nochmals.frequenz, nochmals.daempfung};
+  if (vesk::WinkelSchreiben(zweite) != geschrieben) std::abort();
+
+  vesk::Grenzwerte grenzwerte;
+  grenzwerte.ohneHSM = 27.5F;
+  const auto ergebnis = vesk::SektorenRechnen({"100", tabelle.gewinn, tabelle.daempfung}, grenzwerte);
+  if (!ergebnis.fehler && ergebnis.sektoren.size() != vesk::AnzahlSektoren) std::abort();
+  return 0;
+}
