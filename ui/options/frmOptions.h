@@ -24,9 +24,9 @@ struct Zustand;
 ///       void SatzSchreiben(Datenblattspalte& satz) const;  // controls -> record
 ///
 /// - The constructor builds the controls with their fixed captions and does nothing else: no box, no file.
-/// - Laden() runs once, from frmOptions::Laden(), in the order Kabel, Antennen, Winkel. It reads the
-/// catalogue
-///   and may show boxes. Of the angle tab it sets the file name "Winkel.ang" and txtWDaempfung_0 to "0".
+/// - Laden() runs once, from frmOptions::Laden(), in the order SendeartTab::Laden(), Kabel,
+///   SendeartTab::Vorbelegen(), Antennen, Winkel. It reads the catalogue and may show boxes. Of the angle
+///   tab it sets the file name "Winkel.ang" and txtWDaempfung_0 to "0".
 /// - SatzLaden() fills the tab's fields from a column's record; no handler runs, nothing is calculated, no
 ///   record is written. SatzSchreiben() is its inverse and touches the tab's own positions only.
 /// - A tab sits in a scroll area, so it needs a layout but no care for small screens. Focus order within the
