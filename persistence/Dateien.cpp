@@ -95,15 +95,14 @@ Fehlergrund DateiKopieren(const fs::path& von, const fs::path& nach) {
 }
 
 fs::path FreierAltname(const fs::path& pfad) {
-  const std::string stamm = pfad.stem().string() + "-alt";
-  const std::string endung = pfad.extension().string();
-  fs::path name = pfad.parent_path() / (stamm + endung);
+  fs::path name = pfad;
   std::error_code fehler;
-  for (int nummer = 2; fs::symlink_status(name, fehler).type() != fs::file_type::not_found; ++nummer) {
-    if (fehler) break;
-    name = pfad.parent_path() / (stamm + std::to_string(nummer) + endung);
+  for (int nummer = 1;; ++nummer) {
+    fs::path bare = pfad.stem();
+    bare += nummer == 1 ? std::string("-alt") : "-alt" + std::to_string(nummer);
+    name.replace_filename(bare += pfad.extension());
+    if (fs::symlink_status(name, fehler).type() == fs::file_type::not_found || fehler) return name;
   }
-  return name;
 }
 
 }  // namespace vesk

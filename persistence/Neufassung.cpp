@@ -44,8 +44,7 @@ Deskriptor NeuOeffnen(const fs::path& pfad) {
   using namespace std::chrono_literals;
   const auto schluss = std::chrono::steady_clock::now() + 2s;
   do {
-    Deskriptor datei(
-        open(pfad.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
+    Deskriptor datei(open(pfad.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
     if (!datei) Scheitern(errno);
     if (SperreVersuchen(datei) == Sperre::Belegt) {
       std::this_thread::sleep_for(10ms);

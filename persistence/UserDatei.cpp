@@ -1,6 +1,7 @@
 #include "UserDatei.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -200,7 +201,7 @@ void DatenblattSchreiben(Schreibgang& gang) {
 
 void SpalteLesen(Lesegang& gang, std::size_t nummer) {
   Datenblattspalte& spalte = gang.zustand.Datenblattspalten.at(nummer);
-  gang.bericht.Spalten.at(nummer - 1) = true;
+  gang.bericht.Spalten.set(nummer - 1);
   for (const auto feld : Spaltentexte) gang.Text(spalte.*feld);
   for (std::string& winkel : spalte.Winkel) gang.Text(winkel);
   if (!(WertOhneFehler(gang.bericht.versionstext) > LetzteMit24Feldern)) return;
@@ -250,7 +251,7 @@ void AbschnittLesen(std::string_view name, Lesegang& gang) {
     abschnitt->lesen(gang);
   } else if (name >= "A" && name <= "G") {
     // "Foo" lies between "A" and "G" as well and is column F, "G1" and "a" are not.
-    SpalteLesen(gang, static_cast<std::size_t>(name.front() - 'A' + 1));
+    SpalteLesen(gang, static_cast<std::size_t>(name.front() - 'A') + 1);
   }
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-#include <array>
+#include <bitset>
 #include <string>
 #include <string_view>
 
@@ -27,9 +27,9 @@ struct Lesebericht {
   bool User = false;      ///< section was there: the titles are to be set
   bool ToolTips = false;  ///< section was there: a stored mark counts at the start
   bool AFu = false;
-  std::array<bool, AnzahlSpalten> Spalten{};  ///< records met: their tints are to be set
-  bool etwasGelesen = false;                  ///< at least one value was taken over
-  bool verlustfrei = true;                    ///< rewriting the file loses nothing that stands in it
+  std::bitset<AnzahlSpalten> Spalten;  ///< records met, bit 0 is A: their tints are to be set
+  bool etwasGelesen = false;           ///< at least one value was taken over
+  bool verlustfrei = true;             ///< rewriting the file loses nothing that stands in it
 };
 
 /// Reads into `zustand`. An item that is missing or cannot be read leaves its target as it was; nothing is
