@@ -249,7 +249,13 @@ void frmUser::hideEvent(QHideEvent* ereignis) {
   QDialog::hideEvent(ereignis);
   if (ereignis->spontaneous()) return;
   Abschliessen();
-  Q_EMIT verborgen();
+  // Saving may open a box; the window must be out of its modal loop by then.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (isHidden()) Q_EMIT verborgen();
+      },
+      Qt::QueuedConnection);
 }
 
 }  // namespace vesk

@@ -43,7 +43,7 @@ class frmUser : public QDialog {
   void UserSpeichernUnter();
   void UserPrint();
   void NoChange();
-  /// However it came about. Unsaved data are now to be saved.
+  /// However it came about; a moment later. Unsaved data are now to be saved.
   void verborgen();
 
  protected:

@@ -56,7 +56,8 @@ Antwort QtMeldungsboxen::Zeigen(const Box& box) {
   StrengeBox fenster(QApplication::activeWindow());
   fenster.setWindowTitle(box.titel);
   fenster.setTextFormat(Qt::PlainText);
-  fenster.setText(box.text);
+  // Some texts break their lines with CR, which a label does not show.
+  fenster.setText(QString(box.text).replace(QLatin1Char('\r'), QLatin1Char('\n')));
   switch (box.symbol) {
     case Symbol::Keins:
       break;

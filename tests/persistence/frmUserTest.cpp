@@ -120,6 +120,7 @@ TEST_F(BenutzerfensterTest, LoeschenFragt) {
   Menue("mnuUserDelete").trigger();
   EXPECT_TRUE(zustand.benutzer == vorher);
   EXPECT_TRUE(fenster.isHidden());
+  QApplication::processEvents();
 
   fenster.show();
   zustand.UserGeaendert = false;
@@ -128,6 +129,7 @@ TEST_F(BenutzerfensterTest, LoeschenFragt) {
   EXPECT_TRUE(zustand.benutzer == Benutzer());
   EXPECT_TRUE(zustand.UserGeaendert);
   EXPECT_TRUE(fenster.isHidden());
+  QApplication::processEvents();
   EXPECT_EQ(verborgen.count(), 2);
 }
 
@@ -136,12 +138,14 @@ TEST_F(BenutzerfensterTest, SchliessenVerbirgtUndBehaelt) {
   Tippen("txtRufzeichen", u"DO1A"_s);
   fenster.close();
   EXPECT_TRUE(fenster.isHidden());
+  QApplication::processEvents();
   EXPECT_EQ(verborgen.count(), 1);
   EXPECT_EQ(zustand.benutzer.Rufzeichen, "DO1A");
   EXPECT_EQ(zustand.benutzer.Klasse, "3");
   fenster.show();
   QTest::keyClick(&fenster, Qt::Key_Escape);
   EXPECT_TRUE(fenster.isHidden());
+  QApplication::processEvents();
   EXPECT_EQ(verborgen.count(), 2);
 }
 
