@@ -1,79 +1,152 @@
 #include "Programm.h"
 
 #include <QAction>
+#include <QDir>
+#include <QGuiApplication>
 #include <QTimer>
+#include <QWindow>
+#include <utility>
 
-#include "Datenblatt.h"
+#include "Datenblatthilfe.h"
 #include "Meldung.h"
+#include "OptionenHilfe.h"
+#include "Spaltenkopie.h"
 #include "Zahlen.h"
+#include "frmLstg.h"
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 
-Programm::Programm(Plattform& plattform)
+Programm::Programm(Plattform& plattform, const Verzeichnisse& verzeichnisse)
     : plattform_(plattform),
+      verzeichnisse_(verzeichnisse),
       hauptfenster_(zustand_, plattform),
-      rechengang_(zustand_, plattform, hauptfenster_,
-                  [this](const Rechenergebnis& ergebnis, const Feldtexte&) {
-                    if (!ergebnis.vollstaendig) return;
-                    KopierknopfAuffrischen();
-                    hauptfenster_.KopierenErlauben(!NaechsteFreieSpalte(zustand_.Zellen).empty());
-                  }) {
+      datenblatt_(zustand_, plattform),
+      benutzer_(zustand_, plattform, &hauptfenster_),
+      verbund_(zustand_, plattform, hauptfenster_, datenblatt_),
+      optionen_(zustand_, plattform, verbund_),
+      ablauf_(zustand_, plattform, *this) {
+  verbund_.OptionenBekanntmachen(optionen_);
+  zustand_.ProgrammVerzeichnis = verzeichnisse.programm.toStdString();
+  zustand_.UserVerzeichnis = zustand_.Arbeitsverzeichnis = QDir::currentPath().toStdString();
   HauptfensterVerbinden();
+  MenueVerbinden();
+  DatenblattVerbinden();
+  BenutzerfensterVerbinden();
 }
 
-Programm::~Programm() = default;
+Programm::~Programm() {
+  hauptfenster_.Entschaerfen();
+}
 
 void Programm::Starten() {
-  hauptfenster_.show();
-  hauptfenster_.Aktion("mnuAFu").setChecked(true);
   hauptfenster_.Aktion("mnuMeldungen").setChecked(true);
-  hauptfenster_.Aktion("mnuToolTips").setChecked(true);
-  hauptfenster_.TooltipsZeigen(true);
-  KopierknopfAuffrischen();
-  hauptfenster_.Scharfschalten();
-}
+  datenblatt_.OptionenBeruecksichtigenSetzen(true);
+  ablauf_.InitLaden();
 
-void Programm::Antworten(const std::function<void()>& tun) {
-  try {
-    tun();
-  } catch (const Laufzeitfehler& fehler) {
-    Zeigen(plattform_.boxen, zustand_.werte, Fehlermeldung(fehler.art));
+  hauptfenster_.show();
+  const bool alle = hauptfenster_.Aktion("mnuFenster").isChecked();
+  optionen_.Laden();
+  if (alle) {
+    optionen_.show();
+    datenblatt_.show();
   }
+  DateimenueSperren(!alle);
+
+  if (hauptfenster_.Aktion("mnuAFu").property("Tag").toString().isEmpty()) {
+    hauptfenster_.Aktion("mnuAFu").setChecked(true);
+  }
+  optionen_.Startfaktoren();
+  QAction& tooltips = hauptfenster_.Aktion("mnuToolTips");
+  tooltips.setChecked(tooltips.property("Tag").toString() != u"+" || tooltips.isChecked());
+  TooltipsZeigen(tooltips.isChecked());
+  verbund_.KopierknopfAuffrischen();
+  hauptfenster_.Scharfschalten();
+  hauptfenster_.activateWindow();
 }
 
-void Programm::Bei(const char* menue, const std::function<void()>& tun) {
-  connect(&hauptfenster_.Aktion(menue), &QAction::triggered, this, [this, tun] { Antworten(tun); });
+std::function<void()> Programm::Antwort(std::function<void()> tun) {
+  return [this, tun = std::move(tun)] { Abgefangen(plattform_.boxen, zustand_.werte, tun); };
+}
+
+void Programm::Bei(const char* menue, std::function<void()> tun) {
+  connect(&hauptfenster_.Aktion(menue), &QAction::triggered, this, Antwort(std::move(tun)));
 }
 
 void Programm::HauptfensterVerbinden() {
-  const auto antwort = [this](void (Programm::*tun)()) {
-    return [this, tun] { Antworten([this, tun] { (this->*tun)(); }); };
+  const auto an = [this](auto signal, void (Programm::*tun)()) {
+    connect(&hauptfenster_, signal, this, Antwort([this, tun] { (this->*tun)(); }));
   };
-  connect(&hauptfenster_, &frmVesk::berechnenVerlangt, this, antwort(&Programm::BerechnenKnopf));
-  connect(&hauptfenster_, &frmVesk::qrgVerlassen, this, antwort(&Programm::QrgVerlassen));
-  connect(&hauptfenster_, &frmVesk::modusGeklickt, this, antwort(&Programm::ModusGeklickt));
+  an(&frmVesk::berechnenVerlangt, &Programm::BerechnenKnopf);
+  an(&frmVesk::kopierenVerlangt, &Programm::Kopieren);
+  an(&frmVesk::qrgVerlassen, &Programm::QrgVerlassen);
+  an(&frmVesk::modusGeklickt, &Programm::ModusGeklickt);
+  an(&frmVesk::geschlossen, &Programm::Beenden);
   connect(&hauptfenster_, &frmVesk::qrgGeklickt, this, [this] { hauptfenster_.Aktion("mnuAFu").trigger(); });
-  connect(&hauptfenster_, &frmVesk::geschlossen, this, antwort(&Programm::Beenden));
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* fenster) {
+    if (fenster == nullptr) return;
+    if (fenster == hauptfenster_.windowHandle()) HauptfensterAktiviert();
+    letztesFenster_ = fenster;
+  });
+}
 
+void Programm::MenueVerbinden() {
+  Bei("mnuDateiLaden", [this] { ablauf_.Laden(); });
+  Bei("mnuDateiSpeichern", [this] { ablauf_.Speichern(); });
+  Bei("mnuDateiSpeichernUnter", [this] { ablauf_.UserSpeichernUnter(); });
   Bei("mnuEnde", [this] { Beenden(); });
+  Bei("mnuMoreOptions", [this] {
+    optionen_.show();
+    optionen_.activateWindow();
+  });
   Bei("mnuAFu", [this] { AFuUmgeschaltet(); });
   Bei("mnuAbstand", [this] { AbstandUmschalten(); });
-  Bei("mnuToolTips", [this] {
-    zustand_.UserGeaendert = true;
-    hauptfenster_.TooltipsZeigen(hauptfenster_.Aktion("mnuToolTips").isChecked());
-  });
-  Bei("mnuMeldungen", [this] {
-    zustand_.UserGeaendert = true;
-    if (!hauptfenster_.MeldungenAn()) return;
-    // Whoever switches the warnings on wants to see them all again.
-    Einstellungen& e = zustand_.einstellungen;
-    e.HSMHinweisAus = e.NahfeldHinweisAus = e.FaktorMeldungAus = false;
-  });
-  for (const char* name : {"mnuDateiLaden", "mnuDateiSpeichern", "mnuDateiSpeichernUnter", "mnuMoreOptions",
-                           "mnuUmrechnung", "mnuFenster", "mnuUser", "mnuDatenblatt", "mnuAntragDrucken",
-                           "mnuTip1", "mnuAnleitung", "mnuHilfeBenutzen", "mnuInfo"}) {
+  Bei("mnuUmrechnung", [this] { LeistungsumrechnungZeigen(); });
+  Bei("mnuToolTips", [this] { TooltipsUmschalten(); });
+  Bei("mnuMeldungen", [this] { WarnmeldungenUmschalten(); });
+  Bei("mnuFenster", [this] { FensterUmschalten(); });
+  Bei("mnuUser", [this] { BenutzerZeigen(); });
+  Bei("mnuDatenblatt", [this] { DatenblattZeigen(); });
+  QAction& drucken = hauptfenster_.Aktion("mnuAntragDrucken");
+  drucken.setEnabled(false);
+  drucken.setToolTip(u"Das Drucken kommt mit einer späteren Version."_s);
+  for (const char* name : {"mnuTip1", "mnuAnleitung", "mnuHilfeBenutzen", "mnuInfo"}) {
     hauptfenster_.Aktion(name).setEnabled(false);
   }
+}
+
+void Programm::DatenblattVerbinden() {
+  const auto an = [this](auto signal, std::function<void()> tun) {
+    connect(&datenblatt_, signal, this, Antwort(std::move(tun)));
+  };
+  an(&frmDatenblatt::zelleGeklickt, [this] { verbund_.Spalten().ZelleGeklickt(); });
+  an(&frmDatenblatt::kopfGeklickt, [this] { verbund_.Spalten().KopfGeklickt(); });
+  an(&frmDatenblatt::rechnen, [this] { verbund_.Spalten().Rechnen(); });
+  an(&frmDatenblatt::belegungGeaendert, [this] { verbund_.KopierknopfAuffrischen(); });
+  an(&frmDatenblatt::optionenAnzeigen, [this] { optionen_.SatzLaden(); });
+  an(&frmDatenblatt::kopierenFreigeben, [this] { verbund_.KopierenFreigeben(); });
+  an(&frmDatenblatt::dateiLaden, [this] { ablauf_.Laden(); });
+  an(&frmDatenblatt::dateiSpeichern, [this] { ablauf_.Speichern(); });
+  an(&frmDatenblatt::dateiSpeichernUnter, [this] { ablauf_.UserSpeichernUnter(); });
+  an(&frmDatenblatt::noChange, [this] { ablauf_.AenderungenVerwerfen(); });
+  an(&frmDatenblatt::beenden, [this] {
+    verbund_.KopierknopfAuffrischen();
+    optionen_.hide();
+  });
+  an(&frmDatenblatt::ende, [this] { Beenden(); });
+}
+
+void Programm::BenutzerfensterVerbinden() {
+  const auto an = [this](auto signal, std::function<void()> tun) {
+    connect(&benutzer_, signal, this, Antwort(std::move(tun)));
+  };
+  an(&frmUser::UserNeu, [this] { ablauf_.UserNeu(); });
+  an(&frmUser::UserLaden, [this] { ablauf_.Laden(); });
+  an(&frmUser::UserSpeichern, [this] { ablauf_.Speichern(); });
+  an(&frmUser::UserSpeichernUnter, [this] { ablauf_.UserSpeichernUnter(); });
+  an(&frmUser::NoChange, [this] { ablauf_.AenderungenVerwerfen(); });
+  an(&frmUser::verborgen, [this] { ablauf_.BenutzerfensterVerborgen(); });
 }
 
 void Programm::BerechnenKnopf() {
@@ -82,12 +155,21 @@ void Programm::BerechnenKnopf() {
   hauptfenster_.Uebernehmen();
   werte.LetzteSpalte = werte.Spalte;
   werte.Spalte = 0;
+  verbund_.Spalten().MarkenZuruecknehmen();
   werte.Pruefergebnis = hauptfenster_.EingabenGueltig();
-  if (!werte.Pruefergebnis) {
-    Zeigen(plattform_.boxen, werte, EingabeHinweis());
-    return;
+  if (werte.Pruefergebnis) {
+    verbund_.Berechnen(true);
+  } else {
+    verbund_.EingabeHinweis();
   }
-  rechengang_.Berechnen(true);
+}
+
+void Programm::Kopieren() {
+  hauptfenster_.Uebernehmen();
+  optionen_.ArbeitssatzAuffrischen();
+  if (!InFreieSpalteKopieren(zustand_, verbund_)) return;
+  hauptfenster_.NachKopieren();
+  verbund_.KopierknopfAuffrischen();
 }
 
 void Programm::AFuUmgeschaltet() {
@@ -97,9 +179,9 @@ void Programm::AFuUmgeschaltet() {
   zustand_.UserGeaendert = true;
   const float qrg = Zahl(werte.QRGText);
   if (qrg > 0 && Zahl(werte.PWRText) > 0) {
-    rechengang_.Berechnen(true);
+    verbund_.Berechnen(true);
   } else if (qrg > 0) {
-    rechengang_.Bandlogik(qrg, true);
+    verbund_.Bandlogik(qrg, true);
   } else {
     hauptfenster_.KoepfeZuruecksetzen();
   }
@@ -114,6 +196,7 @@ void Programm::AbstandUmschalten() {
 void Programm::ModusGeklickt() {
   hauptfenster_.Uebernehmen();
   hauptfenster_.switchLeistung();
+  verbund_.Spalten().Rechnen();
 }
 
 void Programm::QrgVerlassen() {
@@ -124,7 +207,7 @@ void Programm::QrgVerlassen() {
 
   // The focus must settle before a warning opens; otherwise a click on "=" would be lost to the box.
   rechnungSteht_ = true;
-  QTimer::singleShot(0, this, [this] { Antworten([this] { NachQrgWechsel(); }); });
+  QTimer::singleShot(0, this, Antwort([this] { NachQrgWechsel(); }));
 }
 
 void Programm::NachQrgWechsel() {
@@ -135,18 +218,134 @@ void Programm::NachQrgWechsel() {
   const float qrg = Zahl(zustand_.werte.QRGText);
   if (qrg <= 0) return;
   if (Zahl(zustand_.werte.PWRText) > 0) {
-    rechengang_.Berechnen(true);
+    verbund_.Berechnen(true);
   } else {
-    rechengang_.Bandlogik(qrg, true);
+    verbund_.Bandlogik(qrg, true);
   }
 }
 
-void Programm::KopierknopfAuffrischen() {
-  hauptfenster_.KopierknopfZeigen(QString::fromStdString(NaechsteFreieSpalte(zustand_.Zellen)));
+void Programm::TooltipsUmschalten() {
+  zustand_.UserGeaendert = true;
+  TooltipsZeigen(hauptfenster_.Aktion("mnuToolTips").isChecked());
+}
+
+void Programm::WarnmeldungenUmschalten() {
+  zustand_.UserGeaendert = true;
+  if (!hauptfenster_.MeldungenAn()) return;
+  // Whoever switches the warnings on wants to see them all again.
+  Einstellungen& e = zustand_.einstellungen;
+  e.HSMHinweisAus = e.NahfeldHinweisAus = e.FaktorMeldungAus = false;
+}
+
+void Programm::FensterUmschalten() {
+  zustand_.UserGeaendert = true;
+  const bool zeigen = hauptfenster_.Aktion("mnuFenster").isChecked();
+  datenblatt_.setVisible(zeigen);
+  optionen_.setVisible(zeigen);
+}
+
+void Programm::DatenblattZeigen() {
+  optionen_.show();
+  datenblatt_.show();
+  datenblatt_.activateWindow();
+  DateimenueSperren(false);
+}
+
+void Programm::BenutzerZeigen() {
+  benutzer_.setWindowModality(Qt::ApplicationModal);
+  benutzer_.show();
+}
+
+void Programm::LeistungsumrechnungZeigen() {
+  if (!leistung_) {
+    leistung_ = std::make_unique<frmLstg>(plattform_, zustand_.werte,
+                                          QLocale().decimalPoint().at(0).toLatin1(), &hauptfenster_);
+    leistung_->ToolTips(hauptfenster_.Aktion("mnuToolTips").isChecked());
+  }
+  leistung_->show();
+  leistung_->activateWindow();
+}
+
+void Programm::TooltipsZeigen(bool an) {
+  hauptfenster_.TooltipsZeigen(an);
+  OptionenTooltips(optionen_, an);
+  TooltipsSetzen(datenblatt_, DatenblattTooltips, an);
+  benutzer_.TooltipsZeigen(an);
+  if (leistung_) leistung_->ToolTips(an);
+}
+
+void Programm::HauptfensterAktiviert() {
+  // Only who comes from another window of the program turns away from its column; a box that closes, a dialog
+  // or another program in between changes nothing.
+  const QWindow* vorher = letztesFenster_;
+  if (vorher == nullptr || vorher == hauptfenster_.windowHandle() || vorher->modality() != Qt::NonModal)
+    return;
+  if (verbund_.RechnungLaeuft() || verbund_.Spalten().Laeuft()) return;
+  zustand_.werte.LetzteSpalte = zustand_.werte.Spalte;
+  zustand_.werte.Spalte = 0;
+  datenblatt_.MarkierungAufheben();
+}
+
+void Programm::DateimenueSperren(bool gesperrt) {
+  for (const char* name : {"mnuDateiLaden", "mnuDateiSpeichern", "mnuDateiSpeichernUnter"}) {
+    hauptfenster_.Aktion(name).setEnabled(!gesperrt);
+  }
 }
 
 void Programm::Beenden() {
+  if (!ablauf_.Beenden()) return;
+  hauptfenster_.Entschaerfen();
   Q_EMIT beendet();
+}
+
+void Programm::SchalterLesen(Einstellungen& einstellungen) const {
+  einstellungen.ToolTips = hauptfenster_.Aktion("mnuToolTips").isChecked();
+  einstellungen.AFu = hauptfenster_.AFu();
+  einstellungen.Fenster = hauptfenster_.Aktion("mnuFenster").isChecked();
+  einstellungen.Meldungen = hauptfenster_.MeldungenAn();
+}
+
+void Programm::Abschliessen() {
+  benutzer_.Abschliessen();
+}
+
+void Programm::StandZeigen(const Lesebericht& bericht) {
+  const Einstellungen& e = zustand_.einstellungen;
+  hauptfenster_.Aktion("mnuToolTips").setChecked(e.ToolTips);
+  hauptfenster_.Aktion("mnuAFu").setChecked(e.AFu);
+  hauptfenster_.Aktion("mnuFenster").setChecked(e.Fenster);
+  hauptfenster_.Aktion("mnuMeldungen").setChecked(e.Meldungen);
+  if (bericht.ToolTips) hauptfenster_.Aktion("mnuToolTips").setProperty("Tag", u"+"_s);
+  if (bericht.AFu) hauptfenster_.Aktion("mnuAFu").setProperty("Tag", u"+"_s);
+  benutzer_.Fuellen();
+  datenblatt_.Fuellen(bericht.Spalten);
+}
+
+void Programm::NachLadenAuffrischen() {
+  zustand_.werte.LetzteSpalte = zustand_.werte.Spalte;
+  zustand_.werte.Spalte = 0;
+  datenblatt_.MarkierungAufheben();
+  TooltipsZeigen(hauptfenster_.Aktion("mnuToolTips").isChecked());
+  verbund_.KopierknopfAuffrischen();
+}
+
+void Programm::TitelSetzen(const QString& benutzer, const QString& haupt, const QString& datenblatt) {
+  benutzer_.setWindowTitle(benutzer);
+  hauptfenster_.setWindowTitle(haupt);
+  datenblatt_.setWindowTitle(datenblatt);
+}
+
+void Programm::BenutzerfensterVerbergen() {
+  benutzer_.hide();
+}
+
+void Programm::BenutzerNeuBeginnen() {
+  BenutzerZeigen();
+  benutzer_.NeuBeginnen();
+}
+
+bool Programm::DatenblattLoeschen() {
+  return datenblatt_.DatenblattLoeschen();
 }
 
 }  // namespace vesk

@@ -1,20 +1,30 @@
 #pragma once
 #include <QObject>
+#include <QPointer>
 #include <functional>
+#include <memory>
 
-#include "Rechengang.h"
+#include "Dateiablauf.h"
+#include "Fensterverbund.h"
+#include "Verzeichnisse.h"
 #include "Zustand.h"
+#include "frmDatenblatt.h"
+#include "frmOptions.h"
+#include "frmUser.h"
 #include "frmVesk.h"
+
+class QWindow;
 
 namespace vesk {
 
+class frmLstg;
 struct Plattform;
 
 /// The one place that creates the windows and ties them together.
-class Programm : public QObject {
+class Programm : public QObject, private Dateifenster {
   Q_OBJECT
  public:
-  explicit Programm(Plattform& plattform);
+  Programm(Plattform& plattform, const Verzeichnisse& verzeichnisse);
   ~Programm() override;
 
   /// Opens the program as the user starts it.
@@ -22,6 +32,9 @@ class Programm : public QObject {
 
   Zustand& zustand() { return zustand_; }
   frmVesk& Hauptfenster() { return hauptfenster_; }
+  frmOptions& Optionen() { return optionen_; }
+  frmDatenblatt& Datenblatt() { return datenblatt_; }
+  frmUser& Benutzerfenster() { return benutzer_; }
 
  Q_SIGNALS:
   /// Everything is saved; the event loop may end.
@@ -29,24 +42,52 @@ class Programm : public QObject {
 
  private:
   void HauptfensterVerbinden();
-  /// Answers a user's event; a run-time error ends it and is shown.
-  void Antworten(const std::function<void()>& tun);
-  void Bei(const char* menue, const std::function<void()>& tun);
+  void MenueVerbinden();
+  void DatenblattVerbinden();
+  void BenutzerfensterVerbinden();
+  /// Wraps the answer to a user's event: a run-time error ends it and is shown.
+  std::function<void()> Antwort(std::function<void()> tun);
+  void Bei(const char* menue, std::function<void()> tun);
 
   void BerechnenKnopf();
+  void Kopieren();
   void AFuUmgeschaltet();
   void AbstandUmschalten();
   void ModusGeklickt();
   void QrgVerlassen();
   void NachQrgWechsel();
-  void KopierknopfAuffrischen();
+  void TooltipsUmschalten();
+  void WarnmeldungenUmschalten();
+  void FensterUmschalten();
+  void DatenblattZeigen();
+  void BenutzerZeigen();
+  void LeistungsumrechnungZeigen();
+  void TooltipsZeigen(bool an);
+  void HauptfensterAktiviert();
+  void DateimenueSperren(bool gesperrt);
   void Beenden();
+
+  void SchalterLesen(Einstellungen& einstellungen) const override;
+  void Abschliessen() override;
+  void StandZeigen(const Lesebericht& bericht) override;
+  void NachLadenAuffrischen() override;
+  void TitelSetzen(const QString& benutzer, const QString& haupt, const QString& datenblatt) override;
+  void BenutzerfensterVerbergen() override;
+  void BenutzerNeuBeginnen() override;
+  bool DatenblattLoeschen() override;
 
   Zustand zustand_;
   Plattform& plattform_;
+  Verzeichnisse verzeichnisse_;
   frmVesk hauptfenster_;
-  Rechengang rechengang_;
-  bool rechnungSteht_ = false;  ///< a calculation after leaving the frequency is queued
+  frmDatenblatt datenblatt_;
+  frmUser benutzer_;
+  Fensterverbund verbund_;
+  frmOptions optionen_;
+  std::unique_ptr<frmLstg> leistung_;
+  Dateiablauf ablauf_;
+  QPointer<QWindow> letztesFenster_;  ///< of this program, before the one that is active now
+  bool rechnungSteht_ = false;        ///< a calculation after leaving the frequency is queued
 };
 
 }  // namespace vesk

@@ -9,6 +9,7 @@
 #include "Programmbild.h"
 #include "QtPlattform.h"
 #include "Version.h"
+#include "Verzeichnisse.h"
 
 using namespace Qt::StringLiterals;
 
@@ -77,8 +78,13 @@ int FensterOeffnen(int anzahl, char** argumente) {
   vesk::QtSignalton ton;
   KeineHilfe hilfe;
   vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
-  vesk::Programm programm(plattform);
-  QObject::connect(&programm, &vesk::Programm::beendet, qApp, &QApplication::quit, Qt::QueuedConnection);
+  const vesk::Verzeichnisse verzeichnisse =
+      vesk::VerzeichnisseBestimmen(optionen.verzeichnis, QApplication::applicationDirPath());
+  vesk::MitgelieferteKopieren(verzeichnisse, speicher);
+  vesk::Programm programm(plattform, verzeichnisse);
+  // exit, not quit: quit would close the windows, and closing the options window means something.
+  QObject::connect(
+      &programm, &vesk::Programm::beendet, qApp, [] { QApplication::exit(0); }, Qt::QueuedConnection);
   programm.Starten();
   return QApplication::exec();
 }

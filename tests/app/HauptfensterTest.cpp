@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "Farben.h"
@@ -54,8 +55,9 @@ class Hauptfenster : public testing::Test {
     }
   }
 
+  QTemporaryDir verzeichnis;
   skript::Buehne buehne;
-  Programm programm{buehne.plattform};
+  Programm programm{buehne.plattform, {verzeichnis.path(), {}}};
   frmVesk& fenster = programm.Hauptfenster();
 };
 

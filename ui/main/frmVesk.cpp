@@ -64,6 +64,10 @@ void frmVesk::Scharfschalten() {
   scharf_ = true;
 }
 
+void frmVesk::Entschaerfen() {
+  scharf_ = false;
+}
+
 bool frmVesk::Ausgeben() const {
   const QString tag = cmdBerechnen->property("Tag").toString();
   return tag == "True"_L1 || tag.toInt() != 0;
@@ -156,10 +160,9 @@ bool frmVesk::EingabenGueltig() {
 }
 
 void frmVesk::switchLeistung() {
-  const Rechenwerte& werte = zustand_.werte;
   WertNull();
   zustand_.werte.PWRText.clear();
-  for (const Eingabe& eingabe : eingaben_) eingabe.feld->setText(QString::fromStdString(werte.*eingabe.text));
+  EingabenZeigen();
 
   const bool leistung = lblModus->property("Tag").toString() != "Leistung"_L1;
   lblModus->setProperty("Tag", leistung ? u"Leistung"_s : u"Abstand"_s);
@@ -183,6 +186,17 @@ void frmVesk::switchLeistung() {
   }
   txtPWR->setAccessibleName(lblPWR->text());
   FeldFarben();
+}
+
+void frmVesk::AbstandEinschalten() {
+  lblModus->setProperty("Tag", u"Leistung"_s);
+  switchLeistung();
+}
+
+void frmVesk::EingabenZeigen() {
+  for (const Eingabe& eingabe : eingaben_) {
+    eingabe.feld->setText(QString::fromStdString(zustand_.werte.*eingabe.text));
+  }
 }
 
 void frmVesk::AFuZeigen() {
@@ -210,6 +224,24 @@ void frmVesk::KopierknopfZeigen(const QString& buchstabe) {
 
 void frmVesk::KopierenErlauben(bool erlaubt) {
   cmdCopy->setEnabled(erlaubt);
+}
+
+void frmVesk::NachKopieren() {
+  cmdBerechnen->setFocus(Qt::OtherFocusReason);
+  cmdCopy->setEnabled(false);
+}
+
+QString frmVesk::Ergebnis(Feld feld) const {
+  switch (feld) {
+    case Feld::AusgabeOhneHSM:
+      return txtAusgabe->text();
+    case Feld::AusgabeHSM306:
+      return txtAusgabeHSM306->text();
+    case Feld::AusgabeHSMvde:
+      return txtAusgabeHSMvde->text();
+    default:
+      return {};
+  }
 }
 
 bool frmVesk::TasteImFeld(QWidget* feld, int taste) {
@@ -251,11 +283,6 @@ bool frmVesk::eventFilter(QObject* objekt, QEvent* ereignis) {
       return true;
   }
   return QMainWindow::eventFilter(objekt, ereignis);
-}
-
-void frmVesk::changeEvent(QEvent* ereignis) {
-  QMainWindow::changeEvent(ereignis);
-  if (scharf_ && ereignis->type() == QEvent::ActivationChange && isActiveWindow()) Q_EMIT aktiviert();
 }
 
 void frmVesk::closeEvent(QCloseEvent* ereignis) {

@@ -34,6 +34,8 @@ class frmVesk : public QMainWindow {
 
   /// From now on a calculation writes its results and leaving a field is answered.
   void Scharfschalten();
+  /// The program ends: nothing is answered any more.
+  void Entschaerfen();
   /// Whether the mark of the calculate button lets a calculation write fields.
   bool Ausgeben() const;
 
@@ -47,6 +49,11 @@ class frmVesk : public QMainWindow {
   /// Frequency and power (or distance) must be numbers above 0. Colours the two fields; no message.
   bool EingabenGueltig();
   void switchLeistung();
+  /// Distance mode, also when it is on already: inputs and outputs are emptied, the inputs shown again from
+  /// the record except the power.
+  void AbstandEinschalten();
+  /// Shows the five input texts of the record as they stand.
+  void EingabenZeigen();
   /// Caption and tooltips of the frequency label for the check mark of mnuAFu.
   void AFuZeigen();
   /// Fills or empties the window's tooltips; the caption of the frequency label follows in both cases.
@@ -59,6 +66,9 @@ class frmVesk : public QMainWindow {
   /// Caption of the copy button for the letter of the next free column; without one it is disabled.
   void KopierknopfZeigen(const QString& buchstabe);
   void KopierenErlauben(bool erlaubt);
+  /// The calculation has been copied: the focus goes back to the calculate button, once is enough.
+  void NachKopieren();
+  QString Ergebnis(Feld feld) const;
 
  Q_SIGNALS:
   void berechnenVerlangt();
@@ -67,11 +77,9 @@ class frmVesk : public QMainWindow {
   void qrgGeklickt();
   void qrgVerlassen();
   void pwrVerlassen(const QString& text);
-  void aktiviert();
   void geschlossen();
 
  protected:
-  void changeEvent(QEvent* ereignis) override;
   void closeEvent(QCloseEvent* ereignis) override;
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 

@@ -1,0 +1,58 @@
+#include "Verzeichnisse.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include "Plattform.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+bool Tragbar(const QString& anwendung) {
+  const QDir verzeichnis(anwendung);
+  return QFileInfo(anwendung).isWritable() &&
+         (verzeichnis.exists(u"user.dat"_s) || verzeichnis.exists(u"Kabel.txt"_s));
+}
+
+QString Programmverzeichnis(const QString& gewuenscht, const QString& anwendung) {
+  if (!gewuenscht.isEmpty()) return QDir(gewuenscht).absolutePath();
+  if (Tragbar(anwendung)) return anwendung;
+  return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
+QString Datenverzeichnis(const QString& anwendung) {
+  for (const QString& ort : {anwendung + "/data"_L1, anwendung + "/../share/vesk"_L1}) {
+    if (QFileInfo::exists(ort + "/Kabel.txt"_L1)) return QDir::cleanPath(ort);
+  }
+  return {};
+}
+
+}  // namespace
+
+Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& anwendung) {
+  Verzeichnisse v{Programmverzeichnis(gewuenscht, anwendung), Datenverzeichnis(anwendung)};
+  QDir().mkpath(v.programm);
+  return v;
+}
+
+void MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher) {
+  if (verzeichnisse.daten.isEmpty()) return;
+  const QString schluessel = QString::fromLatin1(QUrl::toPercentEncoding(verzeichnisse.programm));
+  for (const QString& name : {u"Kabel.txt"_s, u"Antennen.txt"_s, u"TIPOFDAY.TXT"_s}) {
+    if (speicher.Lesen(name, schluessel)) continue;
+    const QString ziel = verzeichnisse.programm + u'/' + name;
+    const bool da = QFileInfo::exists(ziel) || QFile::copy(verzeichnisse.daten + u'/' + name, ziel);
+    if (!da) continue;
+    // What is copied from a read-only place must stay editable.
+    QFile::setPermissions(ziel, QFile::permissions(ziel) | QFile::WriteOwner);
+    speicher.Schreiben(name, schluessel, u"1"_s);
+  }
+}
+
+}  // namespace vesk
