@@ -161,6 +161,8 @@ QWidget* frmDatenblatt::OptionsrahmenAnlegen() {
   connect(cmdRechnen, &QPushButton::clicked, this, &frmDatenblatt::rechnen);
 
   auto* zeile = new QHBoxLayout(rahmen);
+  const int rand = fontMetrics().height() / 4;
+  zeile->setContentsMargins(3 * rand, rand, 3 * rand, rand);
   zeile->addWidget(chkOptionen);
   zeile->addSpacing(fontMetrics().averageCharWidth() * 4);
   zeile->addWidget(lblModIdx);
@@ -225,7 +227,8 @@ void frmDatenblatt::ZelleGeaendert(std::size_t index) {
 void frmDatenblatt::ZeileWechseln(std::size_t index, int schritt) {
   const int zeile = int(index % AnzahlZeilen) + schritt;
   if (zeile < 0 || zeile >= AnzahlZeilen) return;
-  txtA[index - index % AnzahlZeilen + std::size_t(zeile)]->setFocus();
+  // As with the tab key the text is selected, so that typing replaces it.
+  txtA[index - index % AnzahlZeilen + std::size_t(zeile)]->setFocus(Qt::TabFocusReason);
 }
 
 // --- factor, options ---
