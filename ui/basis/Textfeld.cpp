@@ -1,23 +1,17 @@
 #include "Textfeld.h"
 
 #include <QKeyEvent>
-#include <algorithm>
-#include <string_view>
 
 #include "Plattform.h"
+#include "Windows1252.h"
 
 namespace vesk {
 
 namespace {
 
-/// The characters that Windows-1252 holds at 0x80 to 0x9F.
-constexpr std::u16string_view Zusatz = u"€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ";
-
 bool Schreibbar(QChar zeichen) {
-  const char16_t code = zeichen.unicode();
-  if (code == u'"') return false;
-  return (code >= 0x20 && code <= 0x7E) || (code >= 0xA0 && code <= 0xFF) ||
-         Zusatz.find(code) != std::u16string_view::npos;
+  if (zeichen == u'"') return false;
+  return zeichen == u'?' || NachWindows1252(QString(zeichen).toStdString()) != "?";
 }
 
 bool IstSteuerzeichen(QChar zeichen) {

@@ -1,6 +1,5 @@
 #include "Datenblatt.h"
 
-#include "Laufzeitfehler.h"
 #include "Zahlen.h"
 
 namespace vesk {
@@ -17,14 +16,6 @@ std::string NaechsteFreieSpalte(const Datenblattzellen& zellen) {
     if (SpalteFrei(zellen, spalte)) return std::string(1, Spaltenbuchstabe(spalte));
   }
   return {};
-}
-
-float Spaltenfaktor(const Datenblattspalte& spalte) {
-  try {
-    return Zahl(spalte.Modulationsfaktor) * Zahl(spalte.Zyklusfaktor);
-  } catch (const Laufzeitfehler&) {
-    return 1.0F;
-  }
 }
 
 Datenblattspalte LeereSpalte() {

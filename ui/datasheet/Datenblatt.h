@@ -42,10 +42,6 @@ bool SpalteFrei(const Datenblattzellen& zellen, std::int16_t spalte);
 /// Letter "A" to "G" of the first free column; empty when none is free.
 std::string NaechsteFreieSpalte(const Datenblattzellen& zellen);
 
-/// Product of the factors that a column's record holds, in single precision. A number that a single cannot
-/// hold makes it 1, as no factor above 1 counts.
-float Spaltenfaktor(const Datenblattspalte& spalte);
-
 /// Record of a cleared column: factors "1.00", signal type AM, positions 26 to 28 "1", "2", "3".
 Datenblattspalte LeereSpalte();
 

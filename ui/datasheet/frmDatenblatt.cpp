@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <cmath>
 #include <string>
 
 #include "Datenblatt.h"
@@ -17,6 +18,7 @@
 #include "Farben.h"
 #include "Meldung.h"
 #include "Spaltenkopf.h"
+#include "UserDatei.h"
 #include "Zahlen.h"
 #include "Zelle.h"
 #include "Zustand.h"
@@ -26,8 +28,6 @@ using namespace Qt::StringLiterals;
 namespace vesk {
 
 namespace {
-
-constexpr int Zellenlaenge = 20;  // characters
 
 QString Text(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
@@ -39,6 +39,11 @@ std::size_t Index(std::int16_t spalte, std::int16_t zeile) {
 
 const QColor& Faktorfarbe(float faktor) {
   return faktor < 1.0F ? farben::Gruen : farben::HellGruen;
+}
+
+/// A record may hold a number beyond all bounds; like every factor above 1 it does not count.
+QString Faktortext(float faktor) {
+  return u"Faktor für Sendeart: "_s + Text(Formatieren(std::isfinite(faktor) ? faktor : 1.0F));
 }
 
 }  // namespace
@@ -131,7 +136,7 @@ void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, std::int16_t spalte) {
     auto* zelle = new Zelle(plattform_.ton, flaeche);
     zelle->setObjectName(u"txtA_"_s + QString::number(index));
     zelle->setAccessibleName(name + u", "_s + Text(art.beschriftung));
-    zelle->setMaxLength(Zellenlaenge);
+    zelle->setMaxLength(int(MaxZellenlaenge));
     zelle->setMinimumWidth(breite);
     zelle->kommaWirdPunkt = art.numerisch;
     zelle->Faerben(farben::Weiss, Qt::black);
@@ -183,7 +188,7 @@ Zelle& frmDatenblatt::ZelleBei(std::int16_t spalte, Zeile zeile) const {
   return *txtA.at(Index(spalte, zeile));
 }
 
-void frmDatenblatt::Fuellen(std::bitset<AnzahlSpalten> gelesen) {
+void frmDatenblatt::Fuellen(const std::array<bool, AnzahlSpalten>& gelesen) {
   fuellt_ = true;
   for (std::size_t index = 0; index < txtA.size(); ++index) {
     txtA[index]->Schriftfarbe(Qt::black);
@@ -191,8 +196,8 @@ void frmDatenblatt::Fuellen(std::bitset<AnzahlSpalten> gelesen) {
     zustand_.Zellen[index] = txtA[index]->text().toStdString();  // a longer one has been cut
   }
   for (std::int16_t spalte = 1; spalte <= AnzahlSpalten; ++spalte) {
-    if (!gelesen.test(std::size_t(spalte) - 1)) continue;
-    SpalteToenen(spalte, Spaltenfaktor(zustand_.Datenblattspalten[std::size_t(spalte)]));
+    if (!gelesen[std::size_t(spalte) - 1]) continue;
+    SpalteToenen(spalte, Faktorprodukt(zustand_.Datenblattspalten[std::size_t(spalte)]));
   }
   fuellt_ = false;
 }
@@ -234,7 +239,7 @@ void frmDatenblatt::ZeileWechseln(std::size_t index, int schritt) {
 // --- factor, options ---
 
 void frmDatenblatt::FaktorZeigen(std::int16_t spalte, float faktor) {
-  ModIdxSetzen(u"Faktor für Sendeart: "_s + Text(Formatieren(faktor)));
+  ModIdxSetzen(Faktortext(faktor));
   ZelleBei(spalte, ZeileOhneHSM).Grundfarbe(Faktorfarbe(faktor));
 }
 
@@ -245,8 +250,8 @@ void frmDatenblatt::ModIdxSetzen(const QString& text) {
 void frmDatenblatt::ModIdxAusSatz() {
   const auto spalte = std::size_t(zustand_.werte.Spalte);
   const float faktor =
-      spalte == 0 ? Faktor(zustand_.werte) : Spaltenfaktor(zustand_.Datenblattspalten.at(spalte));
-  ModIdxSetzen(u"Faktor für Sendeart: "_s + Text(Formatieren(faktor)));
+      spalte == 0 ? Faktor(zustand_.werte) : Faktorprodukt(zustand_.Datenblattspalten.at(spalte));
+  ModIdxSetzen(Faktortext(faktor));
 }
 
 bool frmDatenblatt::OptionenBeruecksichtigen() const {

@@ -54,6 +54,12 @@ TEST_F(Datenblatt, KlickMachtDieSpalteZurAktuellen) {
   EXPECT_EQ(zustand.werte.Spalte, 3);
 }
 
+TEST_F(Datenblatt, UnmaessigerFaktorStoertDenKlickNicht) {
+  Satz(2).Modulationsfaktor = "9e99";
+  QTest::mouseClick(&Feld(2, 1), Qt::LeftButton);
+  EXPECT_EQ(Finden<QLabel>(fenster, u"lblModIdx"_s).text(), u"Faktor für Sendeart: 1.00"_s);
+}
+
 TEST_F(Datenblatt, NurEinLinkerKlickWaehlt) {
   const QSignalSpy geklickt(&fenster, &frmDatenblatt::zelleGeklickt);
   QTest::mouseClick(&Feld(5, 2), Qt::MiddleButton);
@@ -148,7 +154,7 @@ TEST_F(Datenblatt, BlattLoeschen) {
   // The tints come back with a column cleared singly and with the records of a file.
   buehne.boxen.Erwarten(u"Vesk"_s, u"Spalte A"_s, Antwort::Ja);
   QTest::mousePress(&Kopf(1), Qt::RightButton);
-  fenster.Fuellen(0b10);
+  fenster.Fuellen({false, true});
   ErwarteGetoent(1);
   ErwarteGetoent(2);
   ErwarteToenung(3, farben::Weiss, farben::Weiss, farben::Weiss);
@@ -173,7 +179,7 @@ TEST_F(Datenblatt, ToenungNachDemFaktorDesSatzes) {
   for (const Fall& fall : faelle) {
     Satz(4).Modulationsfaktor = fall.eins;
     Satz(4).Zyklusfaktor = fall.zwei;
-    fenster.Fuellen(0b1000);
+    fenster.Fuellen({false, false, false, true});
     ErwarteToenung(4, fall.zehn, farben::HellRot, farben::HellGelb);
   }
 }
