@@ -188,7 +188,7 @@ Zelle& frmDatenblatt::ZelleBei(std::int16_t spalte, Zeile zeile) const {
   return *txtA.at(Index(spalte, zeile));
 }
 
-void frmDatenblatt::Fuellen(const std::array<bool, AnzahlSpalten>& gelesen) {
+void frmDatenblatt::Fuellen(std::bitset<AnzahlSpalten> gelesen) {
   fuellt_ = true;
   for (std::size_t index = 0; index < txtA.size(); ++index) {
     txtA[index]->Schriftfarbe(Qt::black);

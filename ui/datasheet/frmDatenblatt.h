@@ -1,6 +1,7 @@
 #pragma once
 #include <QMainWindow>
 #include <array>
+#include <bitset>
 #include <cstdint>
 
 #include "Datenblattspalte.h"
@@ -27,7 +28,7 @@ class frmDatenblatt : public QMainWindow {
 
   /// Shows the texts that a file brought: in black, and with the tints of every column whose record was in
   /// the file. Nothing counts as changed by that.
-  void Fuellen(const std::array<bool, AnzahlSpalten>& gelesen);
+  void Fuellen(std::bitset<AnzahlSpalten> gelesen);
 
   void ZelleSetzen(std::int16_t spalte, Zeile zeile, const QString& text);
   /// Background, e.g. of the mark of a missing input.

@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "Farben.h"
+#include "Finden.h"
+#include "Programm.h"
+#include "Skript.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+namespace {
+
+/// One run of the program on a directory.
+struct Lauf {
+  explicit Lauf(const QString& verzeichnis, bool meldungen = false)
+      : programm(buehne.plattform, {verzeichnis, {}}) {
+    // The directory of the tests holds no catalogue; the window says so and goes on.
+    programm.Starten();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&programm.Hauptfenster()));
+    QAction& warnungen = programm.Hauptfenster().Aktion("mnuMeldungen");
+    if (warnungen.isChecked() != meldungen) warnungen.trigger();
+  }
+
+  template <typename Fenster>
+  QString Text(Fenster& fenster, const QString& name) {
+    return Finden<QLineEdit>(fenster, name).text();
+  }
+  QString Zelle(int spalte, int zeile) {
+    return Text(programm.Datenblatt(), u"txtA_%1"_s.arg((spalte - 1) * 12 + zeile - 1));
+  }
+  QString Haupt(const QString& name) { return Text(programm.Hauptfenster(), name); }
+
+  void Eingeben(const QStringList& texte) {
+    frmVesk& fenster = programm.Hauptfenster();
+    fenster.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&fenster));
+    Finden<QLineEdit>(fenster, u"txtQRG"_s).setFocus();
+    for (const QString& text : texte) {
+      auto* feld = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+      ASSERT_NE(feld, nullptr);
+      feld->selectAll();
+      QTest::keyClicks(feld, text);
+      QTest::keyClick(feld, Qt::Key_Return);
+      QCoreApplication::processEvents();
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  }
+  void Klick(QWidget& fenster, const QString& name, Qt::MouseButton taste = Qt::LeftButton) {
+    QTest::mouseClick(&Finden<QWidget>(fenster, name), taste);
+    QCoreApplication::processEvents();
+  }
+  void Kopieren() { Klick(programm.Hauptfenster(), u"cmdCopy"_s); }
+  void DatenblattZeigen() {
+    programm.Hauptfenster().Aktion("mnuDatenblatt").trigger();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&programm.Datenblatt()));
+  }
+  bool Beenden() {
+    bool beendet = false;
+    QObject::connect(&programm, &Programm::beendet, &programm, [&] { beendet = true; });
+    programm.Hauptfenster().close();
+    return beendet;
+  }
+
+  skript::Buehne buehne;
+  Programm programm;
+};
+
+class Rundreise : public testing::Test {
+ protected:
+  void SetUp() override {
+    // One cable is enough for the options window to load without a message.
+    QFile kabel(verzeichnis.filePath(u"Kabel.txt"_s));
+    ASSERT_TRUE(kabel.open(QIODevice::WriteOnly));
+    kabel.write("RG213,0.56,0.8,1.28,1.86,2.66,4.23,6.12,9.18,16.17,25.9,42.3,79.7\r\n");
+  }
+  QTemporaryDir verzeichnis;
+};
+
+const QStringList Stationen[] = {
+    {u"1.85"_s, u"750"_s, u"2.15"_s, u"0.5"_s, u"0"_s},
+    {u"3.6"_s, u"100"_s, u"2.15"_s, u"1"_s, u"0"_s},
+    {u"7"_s, u"750"_s, u"-3"_s, u"2"_s, u"0.5"_s},
+    {u"14.2"_s, u"100"_s, u"0"_s, u"0"_s, u"0"_s},
+    {u"21"_s, u"750"_s, u"8.15"_s, u"1.5"_s, u"3"_s},
+    {u"28.5"_s, u"750"_s, u"10.15"_s, u"1.8"_s, u"11.25"_s},
+    {u"50.1"_s, u"25"_s, u"9"_s, u"1"_s, u"0"_s},
+};
+
+TEST_F(Rundreise, SiebenSpaltenUeberlebenDasProgramm) {
+  QStringList vorher;
+  {
+    Lauf lauf(verzeichnis.path());
+    for (const QStringList& station : Stationen) {
+      lauf.Eingeben(station);
+      lauf.Kopieren();
+    }
+    EXPECT_EQ(Finden<QPushButton>(lauf.programm.Hauptfenster(), u"cmdCopy"_s).text(), u"Datenblatt voll");
+    for (int spalte = 1; spalte <= 7; ++spalte) {
+      for (int zeile = 1; zeile <= 12; ++zeile) vorher << lauf.Zelle(spalte, zeile);
+    }
+    EXPECT_EQ(lauf.Zelle(1, 10), u"2.87");
+    EXPECT_EQ(lauf.Zelle(1, 5), u"alle ");
+    EXPECT_EQ(lauf.Zelle(7, 11), u"");
+    EXPECT_TRUE(lauf.Beenden());
+  }
+
+  Lauf lauf(verzeichnis.path());
+  EXPECT_FALSE(lauf.programm.Hauptfenster().MeldungenAn());
+  for (int i = 0; i < vorher.size(); ++i) EXPECT_EQ(lauf.Zelle(i / 12 + 1, i % 12 + 1), vorher[i]) << i;
+  lauf.DatenblattZeigen();
+  for (int spalte = 1; spalte <= 7; ++spalte) {
+    lauf.Klick(lauf.programm.Datenblatt(), u"txtA_%1"_s.arg((spalte - 1) * 12 + 3));
+    const QStringList& station = Stationen[spalte - 1];
+    EXPECT_EQ(lauf.Haupt(u"txtQRG"_s), station[0]);
+    EXPECT_EQ(lauf.Haupt(u"txtPWR"_s), station[1]);
+    EXPECT_EQ(lauf.Haupt(u"txtGewinn"_s), station[2]);
+    EXPECT_EQ(lauf.Haupt(u"txtAusgabe"_s), vorher[(spalte - 1) * 12 + 9]);
+    EXPECT_EQ(lauf.Haupt(u"txtAusgabeHSMvde"_s), vorher[(spalte - 1) * 12 + 11]);
+    EXPECT_EQ(lauf.programm.zustand().werte.Spalte, spalte);
+  }
+  for (int i = 0; i < vorher.size(); ++i) EXPECT_EQ(lauf.Zelle(i / 12 + 1, i % 12 + 1), vorher[i]) << i;
+}
+
+TEST_F(Rundreise, SendeartUndLeistungsmodusKommenZurueck) {
+  {
+    Lauf lauf(verzeichnis.path());
+    lauf.programm.Hauptfenster().Aktion("mnuMoreOptions").trigger();
+    Finden<QCheckBox>(lauf.programm.Optionen(), u"chkBetriebsart_0"_s).click();
+    lauf.Klick(lauf.programm.Hauptfenster(), u"lblModus"_s);
+    lauf.Eingeben({u"14.2"_s, u"10"_s, u"2.15"_s, u"1"_s, u"0"_s});
+    EXPECT_EQ(lauf.Haupt(u"txtAusgabe"_s), u"4836.38");
+    lauf.Kopieren();
+    EXPECT_EQ(lauf.Zelle(1, 6), u"4836.38");
+    EXPECT_EQ(lauf.Zelle(1, 10), u"10");
+    EXPECT_TRUE(lauf.Beenden());
+  }
+  Lauf lauf(verzeichnis.path());
+  EXPECT_EQ(Hintergrundfarbe(Finden<QLineEdit>(lauf.programm.Datenblatt(), u"txtA_9"_s)), farben::Gruen);
+  lauf.DatenblattZeigen();
+  lauf.Klick(lauf.programm.Datenblatt(), u"lblSpalte_0"_s);
+  EXPECT_EQ(lauf.Zelle(1, 10), u"10.00");
+  EXPECT_EQ(lauf.programm.zustand().werte.Modulationsfaktor, 0.4F);
+  EXPECT_EQ(lauf.Text(lauf.programm.Optionen(), u"txtSelectedModes"_s), u"cw ");
+
+  // Turning back to the main window leaves the column.
+  lauf.programm.Hauptfenster().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&lauf.programm.Hauptfenster()));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(lauf.programm.zustand().werte.Spalte, 0);
+}
+
+TEST_F(Rundreise, SignaltypAendertDieAktuelleSpalte) {
+  Lauf lauf(verzeichnis.path());
+  lauf.Eingeben({u"145"_s, u"50"_s, u"12.5"_s, u"1.2"_s, u"3.33"_s});
+  lauf.Kopieren();
+  EXPECT_EQ(lauf.Zelle(1, 12), u"");
+  lauf.DatenblattZeigen();
+  lauf.Klick(lauf.programm.Datenblatt(), u"txtA_2"_s);
+  lauf.programm.Optionen().activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&lauf.programm.Optionen()));
+  Finden<QRadioButton>(lauf.programm.Optionen(), u"optSSB_1"_s).click();
+  EXPECT_EQ(lauf.Zelle(1, 12), u"37.61");
+  EXPECT_EQ(lauf.programm.zustand().Datenblattspalten[1].Grenzwerttyp, 1);
+}
+
+TEST_F(Rundreise, KeinVerlustWennDasSpeichernScheitert) {
+  Lauf lauf(verzeichnis.path());
+  lauf.Eingeben({u"14.2"_s, u"100"_s, u"0"_s, u"0"_s, u"0"_s});
+  lauf.Kopieren();
+  ASSERT_TRUE(QDir().mkpath(verzeichnis.filePath(u"user.dat/belegt"_s)));
+  lauf.buehne.boxen.Erwarten(u"Vesk - Fehlermeldung"_s, u"user.dat"_s);
+  lauf.buehne.boxen.Erwarten(u"Vesk"_s, u"Programm trotzdem beenden?"_s, Antwort::Nein);
+  EXPECT_FALSE(lauf.Beenden());
+  EXPECT_TRUE(lauf.programm.zustand().UserGeaendert);
+  EXPECT_EQ(lauf.Zelle(1, 10), u"1.99");
+  ASSERT_TRUE(QDir(verzeichnis.filePath(u"user.dat"_s)).removeRecursively());
+  EXPECT_TRUE(lauf.Beenden());
+  EXPECT_TRUE(QFile::exists(verzeichnis.filePath(u"user.dat"_s)));
+}
+
+}  // namespace
+}  // namespace vesk
