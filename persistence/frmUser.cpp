@@ -11,11 +11,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "Benutzerhilfe.h"
 #include "Farben.h"
 #include "Meldung.h"
 #include "Plattform.h"
+#include "Textfeld.h"
 #include "UserDatei.h"
 #include "Zustand.h"
 
@@ -71,7 +73,7 @@ frmUser::frmUser(Zustand& zustand, Plattform& plattform, QWidget* eltern)
 }
 
 QLineEdit* frmUser::FeldAnlegen(QGridLayout& raster, const QString& name, const QString& titel) {
-  auto* feld = new QLineEdit(this);
+  auto* feld = new Textfeld(plattform_.ton, this);
   feld->setObjectName(u"txt"_s + name);
   feld->setMaxLength(static_cast<int>(MaxFeldlaenge));
   feld->setMinimumWidth(fontMetrics().horizontalAdvance(QString(40, u'0')));

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -179,6 +180,15 @@ TEST_F(BenutzerfensterTest, Tasten) {
   for (int i = 0; i < 9; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
   EXPECT_EQ(QApplication::focusWidget(), &Feld("txtName"));
   EXPECT_TRUE(fenster.isVisible());
+}
+
+TEST_F(BenutzerfensterTest, WasNichtInDieDateiPasstWirdNichtAngenommen) {
+  for (const QChar zeichen : u"J\"öΩ€"_s) {
+    QKeyEvent taste(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, zeichen);
+    QApplication::sendEvent(&Feld("txtName"), &taste);
+  }
+  EXPECT_EQ(zustand.benutzer.Name, "Jö€");
+  EXPECT_EQ(buehne.ton.anzahl, 2);
 }
 
 TEST_F(BenutzerfensterTest, Tooltips) {
