@@ -13,7 +13,7 @@
 #include "Feldhilfe.h"
 #include "Laufzeitfehler.h"
 #include "Leistungsumrechnung.h"
-#include "Plattform.h"
+#include "Meldung.h"
 #include "Rechenwerte.h"
 #include "Version.h"
 #include "Zahlenfeld.h"
@@ -220,15 +220,14 @@ void frmLstg::Umwandeln(Zahlenfeld& feld, Anlass anlass) {
         }
         break;
       case Umrechnungsergebnis::ZuGross:
-        Melden(u"Hinweis"_s, u"Der eingegebene Wert ist zu groß\n10 Mega Watt = 70 dBW oder 100 dBm"_s,
-               anlass);
+        Melden({"Hinweis", "Der eingegebene Wert ist zu groß\n10 Mega Watt = 70 dBW oder 100 dBm"}, anlass);
         break;
       case Umrechnungsergebnis::NichtPositiv:
-        Melden(u"Hinweis"_s, u"Der eingegebene Wert muß größer Null sein"_s, anlass);
+        Melden({"Hinweis", "Der eingegebene Wert muß größer Null sein"}, anlass);
         break;
     }
   } catch (const Laufzeitfehler& fehler) {
-    Melden(u"Vesk - Fehlermeldung"_s, QString::fromUtf8(fehler.what()), anlass);
+    Melden(Fehlermeldung(fehler.art), anlass);
   }
 }
 
@@ -243,10 +242,8 @@ bool frmLstg::MinusMoeglich(const Zahlenfeld& feld) const {
   return &feld != txtWatt && (feld.text().isEmpty() || ergebnisGezeigt_);
 }
 
-void frmLstg::Melden(const QString& titel, const QString& text, Anlass anlass) {
-  const auto zeigen = [this, titel, text] {
-    werte_.Antwort = static_cast<std::int16_t>(plattform_.boxen.Zeigen({titel, text}));
-  };
+void frmLstg::Melden(const Hinweis& hinweis, Anlass anlass) {
+  const auto zeigen = [this, hinweis] { Zeigen(plattform_.boxen, werte_, hinweis); };
   if (anlass == Anlass::Taste) {
     zeigen();
   } else {

@@ -10,6 +10,7 @@ class QLabel;
 namespace vesk {
 
 class Zahlenfeld;
+struct Hinweis;
 struct Plattform;
 struct Rechenwerte;
 
@@ -38,7 +39,7 @@ class frmLstg : public QDialog {
   void Umwandeln(Zahlenfeld& feld, Anlass anlass);
   void Leeren();
   bool MinusMoeglich(const Zahlenfeld& feld) const;
-  void Melden(const QString& titel, const QString& text, Anlass anlass);
+  void Melden(const Hinweis& hinweis, Anlass anlass);
 
   Plattform& plattform_;
   Rechenwerte& werte_;

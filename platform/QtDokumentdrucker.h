@@ -1,0 +1,11 @@
+#pragma once
+#include "Dokumentdrucker.h"
+
+namespace vesk {
+
+class QtDokumentdrucker : public Dokumentdrucker {
+ public:
+  bool Drucken(const QTextDocument& dokument, const QString& titel) override;
+};
+
+}  // namespace vesk

@@ -1,0 +1,69 @@
+#include "Hilfesystem.h"
+
+#include <QApplication>
+#include <QWindow>
+
+#include "Meldung.h"
+#include "frmHilfe.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+/// A modal window blocks all others but those that belong to it; the help must be readable beside it.
+void ZuModalemFenster(QWidget& hilfe) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  hilfe.winId();  // the native window must exist to belong to another one
+  QWindow* zu = modal != nullptr ? modal->windowHandle() : nullptr;
+  if (hilfe.windowHandle()->transientParent() == zu) return;
+  hilfe.hide();
+  hilfe.windowHandle()->setTransientParent(zu);
+}
+
+}  // namespace
+
+Hilfesystem::Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Rechenwerte& werte,
+                         Dokumentdrucker& drucker)
+    : buch_(verzeichnis), boxen_(boxen), werte_(werte), drucker_(drucker) {}
+
+Hilfesystem::~Hilfesystem() = default;
+
+void Hilfesystem::Aufrufen(const QString& datei, Hilfebefehl befehl, int kontext) {
+  if (befehl == Hilfebefehl::Beenden) {
+    if (fenster_) fenster_->close();
+    return;
+  }
+  if (!buch_.Vorhanden(datei)) {
+    vesk::Zeigen(boxen_, werte_, Fehlermeldung("Hilfedatei nicht gefunden: " + datei.toStdString()));
+    return;
+  }
+  switch (befehl) {
+    case Hilfebefehl::Kontext:
+      Zeigen(buch_.Kontextseite(kontext));
+      break;
+    case Hilfebefehl::HilfeBenutzen:
+      Zeigen(u"hilfe-benutzen.html"_s);
+      break;
+    case Hilfebefehl::Inhalt:
+    case Hilfebefehl::Beenden:
+      Zeigen(u"start.html"_s);
+      break;
+  }
+}
+
+void Hilfesystem::Zeigen(const QString& seite) {
+  if (!fenster_) fenster_ = std::make_unique<frmHilfe>(buch_, boxen_, werte_, drucker_);
+  if (!buch_.Html(seite)) {
+    fenster_->Zeigen(seite);
+    return;
+  }
+  ZuModalemFenster(*fenster_);
+  fenster_->show();
+  fenster_->raise();
+  fenster_->activateWindow();
+  fenster_->Zeigen(seite);
+}
+
+}  // namespace vesk

@@ -1,0 +1,35 @@
+#pragma once
+#include <memory>
+
+#include "Hilfebuch.h"
+#include "Plattform.h"
+
+namespace vesk {
+
+class Dokumentdrucker;
+class frmHilfe;
+struct Rechenwerte;
+
+/// Answers help calls with the program's own help window. Neither the pages nor the window exist before the
+/// first call.
+class Hilfesystem : public Hilfe {
+ public:
+  /// `verzeichnis`: where the help pages lie.
+  Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Rechenwerte& werte, Dokumentdrucker& drucker);
+  ~Hilfesystem() override;
+
+  void Aufrufen(const QString& datei, Hilfebefehl befehl, int kontext) override;
+  /// The window; nullptr before the first call.
+  frmHilfe* Fenster() const { return fenster_.get(); }
+
+ private:
+  void Zeigen(const QString& seite);
+
+  Hilfebuch buch_;
+  Meldungsboxen& boxen_;
+  Rechenwerte& werte_;
+  Dokumentdrucker& drucker_;
+  std::unique_ptr<frmHilfe> fenster_;
+};
+
+}  // namespace vesk

@@ -1,0 +1,264 @@
+#include "frmHilfe.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QStyle>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "Dokumentdrucker.h"
+#include "Hilfebuch.h"
+#include "Meldung.h"
+#include "Seitenanzeige.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+constexpr int Seitenrolle = Qt::UserRole;
+
+}  // namespace
+
+frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Rechenwerte& werte, Dokumentdrucker& drucker,
+                   QWidget* eltern)
+    : QMainWindow(eltern),
+      buch_(buch),
+      boxen_(boxen),
+      werte_(werte),
+      drucker_(drucker),
+      mnuDrucken(Eintrag(u"mnuDrucken"_s, u"Seite &drucken …"_s, QKeySequence::Print)),
+      mnuSchliessen(Eintrag(u"mnuSchliessen"_s, u"&Schließen"_s, Qt::Key_Escape)),
+      mnuZurueck(Eintrag(u"mnuZurueck"_s, u"&Zurück"_s, Qt::ALT | Qt::Key_Left)),
+      mnuVor(Eintrag(u"mnuVor"_s, u"&Vor"_s, Qt::ALT | Qt::Key_Right)),
+      mnuAnfang(Eintrag(u"mnuAnfang"_s, u"&Anfang des Handbuchs"_s, Qt::ALT | Qt::Key_Home)),
+      mnuSuchen(Eintrag(u"mnuSuchen"_s, u"&Suchen"_s, QKeySequence::Find)),
+      mnuWeitersuchen(Eintrag(u"mnuWeitersuchen"_s, u"&Nächste Fundstelle in der Seite"_s, Qt::Key_F3)),
+      mnuGroesser(Eintrag(u"mnuGroesser"_s, u"Schrift &größer"_s, QKeySequence::ZoomIn)),
+      mnuKleiner(Eintrag(u"mnuKleiner"_s, u"Schrift &kleiner"_s, QKeySequence::ZoomOut)),
+      mnuHilfeBenutzen(Eintrag(u"mnuHilfeBenutzen"_s, u"Hilfe &benutzen"_s, Qt::Key_F1)),
+      tabLinks(new QTabWidget(this)),
+      treInhalt(new QTreeWidget(this)),
+      txtSuche(new QLineEdit(this)),
+      lstFundstellen(new QListWidget(this)),
+      anzSeite(new Seitenanzeige(buch, this)) {
+  setObjectName(u"frmHilfe"_s);
+  setWindowTitle(u"Hilfe"_s);
+  MenuesAufbauen();
+  AnsichtAufbauen();
+
+  connect(mnuDrucken, &QAction::triggered, this,
+          [this] { drucker_.Drucken(*anzSeite->document(), windowTitle()); });
+  connect(mnuSchliessen, &QAction::triggered, this, &QWidget::close);
+  connect(mnuZurueck, &QAction::triggered, anzSeite, &QTextBrowser::backward);
+  connect(mnuVor, &QAction::triggered, anzSeite, &QTextBrowser::forward);
+  connect(mnuAnfang, &QAction::triggered, this, [this] { Zeigen(u"start.html"_s); });
+  connect(mnuSuchen, &QAction::triggered, this, [this] {
+    tabLinks->setCurrentIndex(1);
+    txtSuche->setFocus(Qt::ShortcutFocusReason);
+    txtSuche->selectAll();
+  });
+  connect(mnuWeitersuchen, &QAction::triggered, anzSeite, &Seitenanzeige::NaechsteMarkierung);
+  connect(mnuGroesser, &QAction::triggered, anzSeite, [this] { anzSeite->zoomIn(); });
+  connect(mnuKleiner, &QAction::triggered, anzSeite, [this] { anzSeite->zoomOut(); });
+  connect(mnuHilfeBenutzen, &QAction::triggered, this, [this] { Zeigen(u"hilfe-benutzen.html"_s); });
+  connect(anzSeite, &QTextBrowser::backwardAvailable, mnuZurueck, &QAction::setEnabled);
+  connect(anzSeite, &QTextBrowser::forwardAvailable, mnuVor, &QAction::setEnabled);
+  connect(anzSeite, &QTextBrowser::sourceChanged, this, &frmHilfe::SeiteGewechselt);
+  connect(anzSeite, &QTextBrowser::anchorClicked, this, &frmHilfe::Aufschlagen);
+}
+
+QAction* frmHilfe::Eintrag(const QString& name, const QString& text, const QKeySequence& taste) {
+  auto* eintrag = new QAction(text, this);
+  eintrag->setObjectName(name);
+  eintrag->setShortcut(taste);
+  return eintrag;
+}
+
+void frmHilfe::MenuesAufbauen() {
+  mnuZurueck->setEnabled(false);
+  mnuVor->setEnabled(false);
+  mnuZurueck->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+  mnuVor->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+  mnuAnfang->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
+  mnuAnfang->setIconText(u"Anfang"_s);
+  mnuDrucken->setIconText(u"Drucken"_s);
+
+  QMenu* datei = menuBar()->addMenu(u"&Datei"_s);
+  datei->addAction(mnuDrucken);
+  datei->addSeparator();
+  datei->addAction(mnuSchliessen);
+  QMenu* gehen = menuBar()->addMenu(u"&Gehe zu"_s);
+  gehen->addActions({mnuZurueck, mnuVor, mnuAnfang});
+  gehen->addSeparator();
+  gehen->addActions({mnuSuchen, mnuWeitersuchen});
+  QMenu* ansicht = menuBar()->addMenu(u"&Ansicht"_s);
+  ansicht->addActions({mnuGroesser, mnuKleiner});
+  QMenu* hilfe = menuBar()->addMenu(u"&Hilfe"_s);
+  hilfe->addAction(mnuHilfeBenutzen);
+
+  auto* leiste = addToolBar(u"Werkzeugleiste"_s);
+  leiste->setObjectName(u"tlbHilfe"_s);
+  leiste->setMovable(false);
+  leiste->setContextMenuPolicy(Qt::PreventContextMenu);
+  leiste->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  leiste->addActions({mnuZurueck, mnuVor, mnuAnfang, mnuDrucken});
+}
+
+void frmHilfe::AnsichtAufbauen() {
+  tabLinks->setObjectName(u"tabLinks"_s);
+  tabLinks->addTab(InhaltAufbauen(), u"&Inhalt"_s);
+  tabLinks->addTab(SucheAufbauen(), u"&Suchen"_s);
+  anzSeite->setObjectName(u"anzSeite"_s);
+  anzSeite->setAccessibleName(u"Hilfeseite"_s);
+
+  auto* teiler = new QSplitter(this);
+  teiler->addWidget(tabLinks);
+  teiler->addWidget(anzSeite);
+  teiler->setStretchFactor(1, 1);
+  teiler->setChildrenCollapsible(false);
+  setCentralWidget(teiler);
+
+  const QFontMetrics mass = fontMetrics();
+  const int links = mass.averageCharWidth() * 34;
+  const int rechts = mass.averageCharWidth() * 84;
+  teiler->setSizes({links, rechts});
+  const QSize platz = screen()->availableSize() * 9 / 10;
+  resize(QSize(links + rechts, mass.height() * 36).boundedTo(platz));
+}
+
+QWidget* frmHilfe::InhaltAufbauen() {
+  treInhalt->setObjectName(u"treInhalt"_s);
+  treInhalt->setAccessibleName(u"Inhalt des Handbuchs"_s);
+  treInhalt->setHeaderHidden(true);
+  treInhalt->setWordWrap(true);
+  QList<QTreeWidgetItem*> pfad;
+  for (const Hilfeseite& seite : buch_.Inhalt()) {
+    const int ebene = std::min(seite.ebene, static_cast<int>(pfad.size()));
+    pfad.resize(ebene);
+    auto* eintrag = pfad.isEmpty() ? new QTreeWidgetItem(treInhalt) : new QTreeWidgetItem(pfad.constLast());
+    eintrag->setText(0, seite.titel);
+    eintrag->setToolTip(0, seite.titel);
+    eintrag->setData(0, Seitenrolle, seite.name);
+    pfad.append(eintrag);
+  }
+  treInhalt->expandAll();
+  connect(treInhalt, &QTreeWidget::itemActivated, this, &frmHilfe::EintragGewaehlt);
+  connect(treInhalt, &QTreeWidget::itemClicked, this, &frmHilfe::EintragGewaehlt);
+  return treInhalt;
+}
+
+QWidget* frmHilfe::SucheAufbauen() {
+  auto* seite = new QWidget(this);
+  auto* label = new QLabel(u"Such&begriff:"_s, seite);
+  auto* cmdSuchen = new QPushButton(u"&Finden"_s, seite);
+  auto* lblFundstellen = new QLabel(u"F&undstellen:"_s, seite);
+  label->setObjectName(u"lblSuche"_s);
+  label->setBuddy(txtSuche);
+  txtSuche->setObjectName(u"txtSuche"_s);
+  txtSuche->setAccessibleName(u"Suchbegriff"_s);
+  cmdSuchen->setObjectName(u"cmdSuchen"_s);
+  lblFundstellen->setObjectName(u"lblFundstellen"_s);
+  lblFundstellen->setBuddy(lstFundstellen);
+  lstFundstellen->setObjectName(u"lstFundstellen"_s);
+  lstFundstellen->setAccessibleName(u"Fundstellen"_s);
+  lstFundstellen->setWordWrap(true);
+  lstFundstellen->setAlternatingRowColors(true);
+
+  auto* zeile = new QHBoxLayout;
+  zeile->addWidget(txtSuche);
+  zeile->addWidget(cmdSuchen);
+  auto* spalte = new QVBoxLayout(seite);
+  spalte->addWidget(label);
+  spalte->addLayout(zeile);
+  spalte->addWidget(lblFundstellen);
+  spalte->addWidget(lstFundstellen, 1);
+
+  connect(txtSuche, &QLineEdit::returnPressed, this, &frmHilfe::Suchen);
+  connect(cmdSuchen, &QPushButton::clicked, this, &frmHilfe::Suchen);
+  connect(lstFundstellen, &QListWidget::itemActivated, this, &frmHilfe::FundstelleZeigen);
+  connect(lstFundstellen, &QListWidget::itemClicked, this, &frmHilfe::FundstelleZeigen);
+  return seite;
+}
+
+QString frmHilfe::AktuelleSeite() const {
+  return Seitenname(anzSeite->source());
+}
+
+void frmHilfe::Zeigen(const QString& seite) {
+  suchworte_.clear();
+  Aufschlagen(Seitenadresse(seite));
+}
+
+void frmHilfe::Aufschlagen(const QUrl& ziel) {
+  if (ziel.scheme() != u"hilfe"_s) {
+    QDesktopServices::openUrl(ziel);
+    return;
+  }
+  if (!buch_.Html(Seitenname(ziel))) {
+    vesk::Zeigen(boxen_, werte_,
+                 Fehlermeldung("Hilfedatei nicht gefunden: " + Seitenname(ziel).toStdString()));
+    return;
+  }
+  anzSeite->setSource(ziel);
+  anzSeite->setFocus(Qt::OtherFocusReason);
+}
+
+void frmHilfe::SeiteGewechselt(const QUrl& adresse) {
+  // The browser's own source() still names the page before.
+  const QString seite = Seitenname(adresse);
+  setWindowTitle(u"Hilfe – "_s + anzSeite->documentTitle());
+  for (QTreeWidgetItemIterator i(treInhalt); *i != nullptr; ++i) {
+    if ((*i)->data(0, Seitenrolle).toString() == seite) treInhalt->setCurrentItem(*i);
+  }
+  anzSeite->Hervorheben(suchworte_);
+}
+
+void frmHilfe::EintragGewaehlt(QTreeWidgetItem* eintrag) {
+  const QString seite = eintrag->data(0, Seitenrolle).toString();
+  // A click both clicks and, on some desktops, activates.
+  if (seite != AktuelleSeite()) Zeigen(seite);
+}
+
+void frmHilfe::Suchen() {
+  lstFundstellen->clear();
+  for (const Fundstelle& fundstelle : buch_.Suchen(txtSuche->text())) {
+    auto* eintrag = new QListWidgetItem(fundstelle.titel + u'\n' + fundstelle.auszug, lstFundstellen);
+    eintrag->setData(Seitenrolle, fundstelle.seite);
+  }
+  if (lstFundstellen->count() == 0) {
+    auto* eintrag = new QListWidgetItem(u"Nichts gefunden."_s, lstFundstellen);
+    eintrag->setFlags(Qt::NoItemFlags);
+    return;
+  }
+  lstFundstellen->setCurrentRow(0);
+  lstFundstellen->setFocus(Qt::OtherFocusReason);
+}
+
+void frmHilfe::FundstelleZeigen(QListWidgetItem* fundstelle) {
+  const QString seite = fundstelle->data(Seitenrolle).toString();
+  if (seite.isEmpty()) return;
+  suchworte_ = txtSuche->text();
+  if (seite == AktuelleSeite()) {
+    anzSeite->Hervorheben(suchworte_);
+  } else {
+    Aufschlagen(Seitenadresse(seite));
+  }
+  lstFundstellen->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace vesk

@@ -1,0 +1,37 @@
+#pragma once
+#include <QDialog>
+#include <string>
+#include <vector>
+
+class QCheckBox;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace vesk {
+
+class Benutzerspeicher;
+
+/// Tip of the day. Every start goes on with the tip after the one shown last.
+class frmTip : public QDialog {
+  Q_OBJECT
+ public:
+  /// `datei`: path of "TIPOFDAY.TXT".
+  frmTip(Benutzerspeicher& speicher, const QString& datei, QWidget* eltern = nullptr);
+
+ private:
+  void Aufbauen();
+  void NaechsterTip();
+
+  Benutzerspeicher& speicher_;
+  std::vector<std::string> tips_;
+  std::size_t naechster_ = 0;
+
+  QLabel* lblTitel;
+  QPlainTextEdit* txtTip;
+  QCheckBox* chkTipsBeimStart;
+  QPushButton* cmdNaechsterTip;
+  QPushButton* cmdOK;
+};
+
+}  // namespace vesk
