@@ -1,8 +1,9 @@
 #include "Programm.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
-#include <QGuiApplication>
+#include <QLocale>
 #include <QTimer>
 #include <QWindow>
 #include <utility>
@@ -12,21 +13,26 @@
 #include "OptionenHilfe.h"
 #include "Spaltenkopie.h"
 #include "Zahlen.h"
+#include "frmInfo.h"
 #include "frmLstg.h"
+#include "frmTip.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vesk {
 
-Programm::Programm(Plattform& plattform, const Verzeichnisse& verzeichnisse)
-    : plattform_(plattform),
+Programm::Programm(Zustand& zustand, Plattform& plattform, const Verzeichnisse& verzeichnisse)
+    : zustand_(zustand),
+      plattform_(plattform),
       verzeichnisse_(verzeichnisse),
       hauptfenster_(zustand_, plattform),
       datenblatt_(zustand_, plattform),
       benutzer_(zustand_, plattform, &hauptfenster_),
       verbund_(zustand_, plattform, hauptfenster_, datenblatt_),
       optionen_(zustand_, plattform, verbund_),
-      ablauf_(zustand_, plattform, *this) {
+      ablauf_(zustand_, plattform, *this),
+      hilfetaste_(plattform.hilfe) {
+  qApp->installEventFilter(&hilfetaste_);
   verbund_.OptionenBekanntmachen(optionen_);
   zustand_.ProgrammVerzeichnis = verzeichnisse.programm.toStdString();
   zustand_.UserVerzeichnis = zustand_.Arbeitsverzeichnis = QDir::currentPath().toStdString();
@@ -53,6 +59,10 @@ void Programm::Starten() {
     datenblatt_.show();
   }
   DateimenueSperren(!alle);
+  const QString beimStart =
+      plattform_.speicher.Lesen(u"Options"_s, u"Show Tips at Startup"_s).value_or(QString());
+  if (beimStart.isEmpty()) plattform_.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s);
+  if (beimStart.isEmpty() || Zahl(beimStart.toStdString()) == 1) TipZeigen();
 
   if (hauptfenster_.Aktion("mnuAFu").property("Tag").toString().isEmpty()) {
     hauptfenster_.Aktion("mnuAFu").setChecked(true);
@@ -111,9 +121,10 @@ void Programm::MenueVerbinden() {
   QAction& drucken = hauptfenster_.Aktion("mnuAntragDrucken");
   drucken.setEnabled(false);
   drucken.setToolTip(u"Das Drucken kommt mit einer späteren Version."_s);
-  for (const char* name : {"mnuTip1", "mnuAnleitung", "mnuHilfeBenutzen", "mnuInfo"}) {
-    hauptfenster_.Aktion(name).setEnabled(false);
-  }
+  Bei("mnuTip1", [this] { TipZeigen(); });
+  Bei("mnuInfo", [this] { InfoZeigen(); });
+  Bei("mnuAnleitung", [this] { plattform_.hilfe.Aufrufen(u"Vesk32.HLP"_s, Hilfebefehl::Inhalt, 1030); });
+  Bei("mnuHilfeBenutzen", [this] { plattform_.hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::HilfeBenutzen, 0); });
 }
 
 void Programm::DatenblattVerbinden() {
@@ -266,6 +277,21 @@ void Programm::LeistungsumrechnungZeigen() {
   leistung_->activateWindow();
 }
 
+void Programm::TipZeigen() {
+  if (!tip_) {
+    const QString datei = QString::fromStdString(zustand_.ProgrammVerzeichnis) + "/TIPOFDAY.TXT"_L1;
+    tip_ = std::make_unique<frmTip>(plattform_.speicher, datei, &hauptfenster_);
+  }
+  tip_->show();
+  tip_->activateWindow();
+}
+
+void Programm::InfoZeigen() {
+  if (!info_) info_ = std::make_unique<frmInfo>(&hauptfenster_);
+  info_->setWindowModality(Qt::ApplicationModal);
+  info_->show();
+}
+
 void Programm::TooltipsZeigen(bool an) {
   hauptfenster_.TooltipsZeigen(an);
   OptionenTooltips(optionen_, an);
@@ -295,6 +321,7 @@ void Programm::DateimenueSperren(bool gesperrt) {
 void Programm::Beenden() {
   if (!ablauf_.Beenden()) return;
   hauptfenster_.Entschaerfen();
+  plattform_.hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Beenden, 0);
   Q_EMIT beendet();
 }
 

@@ -6,6 +6,7 @@
 
 #include "Dateiablauf.h"
 #include "Fensterverbund.h"
+#include "Hilfetaste.h"
 #include "Verzeichnisse.h"
 #include "Zustand.h"
 #include "frmDatenblatt.h"
@@ -17,14 +18,16 @@ class QWindow;
 
 namespace vesk {
 
+class frmInfo;
 class frmLstg;
+class frmTip;
 struct Plattform;
 
 /// The one place that creates the windows and ties them together.
 class Programm : public QObject, private Dateifenster {
   Q_OBJECT
  public:
-  Programm(Plattform& plattform, const Verzeichnisse& verzeichnisse);
+  Programm(Zustand& zustand, Plattform& plattform, const Verzeichnisse& verzeichnisse);
   ~Programm() override;
 
   /// Opens the program as the user starts it.
@@ -62,6 +65,8 @@ class Programm : public QObject, private Dateifenster {
   void DatenblattZeigen();
   void BenutzerZeigen();
   void LeistungsumrechnungZeigen();
+  void TipZeigen();
+  void InfoZeigen();
   void TooltipsZeigen(bool an);
   void HauptfensterAktiviert();
   void DateimenueSperren(bool gesperrt);
@@ -76,7 +81,7 @@ class Programm : public QObject, private Dateifenster {
   void BenutzerNeuBeginnen() override;
   bool DatenblattLoeschen() override;
 
-  Zustand zustand_;
+  Zustand& zustand_;
   Plattform& plattform_;
   Verzeichnisse verzeichnisse_;
   frmVesk hauptfenster_;
@@ -85,7 +90,10 @@ class Programm : public QObject, private Dateifenster {
   Fensterverbund verbund_;
   frmOptions optionen_;
   std::unique_ptr<frmLstg> leistung_;
+  std::unique_ptr<frmTip> tip_;
+  std::unique_ptr<frmInfo> info_;
   Dateiablauf ablauf_;
+  Hilfetaste hilfetaste_;
   QPointer<QWindow> letztesFenster_;  ///< of this program, before the one that is active now
   bool rechnungSteht_ = false;        ///< a calculation after leaving the frequency is queued
 };

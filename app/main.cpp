@@ -1,12 +1,16 @@
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QLocale>
+#include <QTranslator>
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "Hilfesystem.h"
 #include "Kommandozeile.h"
 #include "Programm.h"
 #include "Programmbild.h"
+#include "QtDokumentdrucker.h"
 #include "QtPlattform.h"
 #include "Version.h"
 #include "Verzeichnisse.h"
@@ -14,11 +18,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class KeineHilfe : public vesk::Hilfe {
- public:
-  void Aufrufen(const QString&, vesk::Hilfebefehl, int) override {}
-};
 
 /// Options of the program itself; what only Qt knows (-platform, -style) is left to it.
 struct Startoptionen {
@@ -72,16 +71,24 @@ int FensterOeffnen(int anzahl, char** argumente) {
   const Startoptionen optionen = Lesen(texte);
   if (!optionen.fehler.empty()) return Fehlaufruf(optionen.fehler);
 
+  // The toolkit's own dialogs and menus speak German, too.
+  QTranslator uebersetzung;
+  if (uebersetzung.load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&uebersetzung);
+  }
+
   vesk::QtMeldungsboxen boxen;
   vesk::QtDateidialoge dialoge;
   vesk::QtBenutzerspeicher speicher;
   vesk::QtSignalton ton;
-  KeineHilfe hilfe;
-  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
+  vesk::QtDokumentdrucker drucker;
   const vesk::Verzeichnisse verzeichnisse =
       vesk::VerzeichnisseBestimmen(optionen.verzeichnis, QApplication::applicationDirPath());
   vesk::MitgelieferteKopieren(verzeichnisse, speicher);
-  vesk::Programm programm(plattform, verzeichnisse);
+  vesk::Zustand zustand;
+  vesk::Hilfesystem hilfe(verzeichnisse.daten + "/hilfe"_L1, boxen, zustand.werte, drucker);
+  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
+  vesk::Programm programm(zustand, plattform, verzeichnisse);
   // exit, not quit: quit would close the windows, and closing the options window means something.
   QObject::connect(
       &programm, &vesk::Programm::beendet, qApp, [] { QApplication::exit(0); }, Qt::QueuedConnection);

@@ -6,6 +6,7 @@ PAKETE_PROGRAMM=(
   g++ cmake ninja-build                # compiler and build
   qt6-base-dev                         # windows, printing; brings the X11 platform plugin
   qt6-wayland                          # platform plugin for desktops without X11
+  qt6-translations-l10n                # German texts of the toolkit's own dialogs and menus
   fonts-dejavu-core fonts-liberation2  # dialog font; metric-compatible Arial for the printed pages
 )
 # shellcheck disable=SC2034

@@ -27,6 +27,7 @@ constexpr auto HSMtitel = "DIN VDE 0848 Teil 3-1"_L1;
 class Hauptfenster : public testing::Test {
  protected:
   void SetUp() override {
+    buehne.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
     programm.Starten();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));
     Feld("txtQRG").setFocus();
@@ -57,7 +58,8 @@ class Hauptfenster : public testing::Test {
 
   QTemporaryDir verzeichnis;
   skript::Buehne buehne;
-  Programm programm{buehne.plattform, {verzeichnis.path(), {}}};
+  Zustand zustand;
+  Programm programm{zustand, buehne.plattform, {verzeichnis.path(), {}}};
   frmVesk& fenster = programm.Hauptfenster();
 };
 

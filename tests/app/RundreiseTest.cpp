@@ -24,8 +24,9 @@ namespace {
 /// One run of the program on a directory.
 struct Lauf {
   explicit Lauf(const QString& verzeichnis, bool meldungen = false)
-      : programm(buehne.plattform, {verzeichnis, {}}) {
+      : programm(zustand, buehne.plattform, {verzeichnis, {}}) {
     // The directory of the tests holds no catalogue; the window says so and goes on.
+    buehne.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
     programm.Starten();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&programm.Hauptfenster()));
     QAction& warnungen = programm.Hauptfenster().Aktion("mnuMeldungen");
@@ -73,6 +74,7 @@ struct Lauf {
   }
 
   skript::Buehne buehne;
+  Zustand zustand;
   Programm programm;
 };
 
