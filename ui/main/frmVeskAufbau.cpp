@@ -6,7 +6,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 
 #include "Farben.h"
 #include "Haupthilfe.h"
@@ -14,6 +13,7 @@
 #include "Klicklabel.h"
 #include "Plattform.h"
 #include "Programmbild.h"
+#include "Rollseite.h"
 #include "Version.h"
 #include "Zustand.h"
 #include "frmVesk.h"
@@ -64,12 +64,7 @@ frmVesk::frmVesk(Zustand& zustand, Plattform& plattform) : zustand_(zustand), pl
   List1 = new QListWidget(flaeche);
   List1->setObjectName(u"List1"_s);
   List1->hide();
-  auto* rollbereich = new QScrollArea(this);
-  rollbereich->setFrameShape(QFrame::NoFrame);
-  rollbereich->setWidgetResizable(true);
-  rollbereich->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-  rollbereich->setWidget(flaeche);
-  setCentralWidget(rollbereich);
+  setCentralWidget(new Rollseite(flaeche));
 
   eingaben_ = {{{txtQRG, &Rechenwerte::QRGText},
                 {txtPWR, &Rechenwerte::PWRText},
@@ -85,7 +80,7 @@ frmVesk::frmVesk(Zustand& zustand, Plattform& plattform) : zustand_(zustand), pl
   EreignisseVerbinden();
   Tabfolge();
   txtQRG->setFocus();
-  resize(sizeHint().boundedTo(screen()->availableSize()));
+  resize(sizeHint().boundedTo(screen()->availableSize() * 0.95));
 }
 
 QWidget* frmVesk::ModusAnlegen() {

@@ -5,13 +5,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollArea>
 #include <QTabWidget>
 
 #include "Datenblatt.h"
 #include "Laufzeitfehler.h"
 #include "OptionenHilfe.h"
 #include "OptionenUmgebung.h"
+#include "Rollseite.h"
 #include "SendeartTab.h"
 #include "Zustand.h"
 
@@ -23,18 +23,6 @@ namespace {
 
 constexpr int WinkelSeite = 3;
 
-/// A tab page that scrolls on a screen too small for it, and is else as large as its contents.
-class Seite : public QScrollArea {
- public:
-  explicit Seite(QWidget* inhalt) {
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setWidget(inhalt);
-  }
-  QSize sizeHint() const override { return widget()->sizeHint(); }
-};
-
 }  // namespace
 
 frmOptions::frmOptions(Zustand& zustand, Plattform& plattform, OptionenUmgebung& umgebung, QWidget* eltern)
@@ -44,10 +32,10 @@ frmOptions::frmOptions(Zustand& zustand, Plattform& plattform, OptionenUmgebung&
   SSTab1 = new QTabWidget(this);
   SSTab1->setObjectName(u"SSTab1"_s);
   sendeart_ = new SendeartTab(zustand, plattform, umgebung);
-  SSTab1->addTab(new Seite(sendeart_), u"Sendeart"_s);
-  SSTab1->addTab(new Seite(new QWidget), u"Kabel"_s);
-  SSTab1->addTab(new Seite(new QWidget), u"Antennen"_s);
-  SSTab1->addTab(new Seite(new QWidget), u"Winkel"_s);
+  SSTab1->addTab(new Rollseite(sendeart_), u"Sendeart"_s);
+  SSTab1->addTab(new Rollseite(new QWidget), u"Kabel"_s);
+  SSTab1->addTab(new Rollseite(new QWidget), u"Antennen"_s);
+  SSTab1->addTab(new Rollseite(new QWidget), u"Winkel"_s);
   setCentralWidget(SSTab1);
   MenueBauen();
   connect(SSTab1, &QTabWidget::currentChanged, this, &frmOptions::ReiterGewechselt);

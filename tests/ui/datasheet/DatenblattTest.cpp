@@ -154,7 +154,7 @@ TEST_F(Datenblatt, BlattLoeschen) {
   // The tints come back with a column cleared singly and with the records of a file.
   buehne.boxen.Erwarten(u"Vesk"_s, u"Spalte A"_s, Antwort::Ja);
   QTest::mousePress(&Kopf(1), Qt::RightButton);
-  fenster.Fuellen({false, true});
+  fenster.Fuellen(0b10);
   ErwarteGetoent(1);
   ErwarteGetoent(2);
   ErwarteToenung(3, farben::Weiss, farben::Weiss, farben::Weiss);
@@ -179,7 +179,7 @@ TEST_F(Datenblatt, ToenungNachDemFaktorDesSatzes) {
   for (const Fall& fall : faelle) {
     Satz(4).Modulationsfaktor = fall.eins;
     Satz(4).Zyklusfaktor = fall.zwei;
-    fenster.Fuellen({false, false, false, true});
+    fenster.Fuellen(0b1000);
     ErwarteToenung(4, fall.zehn, farben::HellRot, farben::HellGelb);
   }
 }
