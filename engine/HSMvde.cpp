@@ -86,6 +86,7 @@ float Schwelle(float f, std::int16_t grenzwerttyp) {
 /// Sorts a candidate (V/m) in, at the five decimals of its text, which is the precision of the limit.
 void Merken(HSMvdeWerte& werte, double feld) {
   auto i = static_cast<std::size_t>(werte.Anzahl++);
+  // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and lround is a call in code counted in ns
   const auto kandidat = static_cast<std::int64_t>(feld * 1e5 + 0.5);
   for (; i > 0 && werte.Kandidaten[i - 1] > kandidat; --i) werte.Kandidaten[i] = werte.Kandidaten[i - 1];
   werte.Kandidaten[i] = kandidat;

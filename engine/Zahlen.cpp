@@ -110,6 +110,7 @@ std::string Formatieren(float wert, int stellen, char trenner) {
   constexpr double Groesste = 1e15;
   const double hundertstel = std::abs(static_cast<double>(wert)) * 100;
   if (stellen != 2 || !(hundertstel < Groesste)) return FormatierenAllgemein(wert, stellen, trenner);
+  // NOLINTNEXTLINE(bugprone-incorrect-roundings): where the sum itself rounds, the test below turns it away
   const auto gerundet = static_cast<std::int64_t>(hundertstel + 0.5);
   const double abgeschnitten = std::floor(hundertstel);
   if (std::abs(hundertstel - abgeschnitten - 0.5) <= hundertstel * Unschaerfe) {

@@ -59,7 +59,8 @@ void HauptmenueAnlegen(QMenuBar& leiste) {
       menue->setToolTipsVisible(true);
       continue;
     }
-    QAction* aktion = eintrag.stufe == 1 ? leiste.addAction(titel) : menue->addAction(titel);
+    QAction* aktion =
+        eintrag.stufe == 1 || menue == nullptr ? leiste.addAction(titel) : menue->addAction(titel);
     aktion->setObjectName(name);
     aktion->setCheckable(eintrag.schalter);
     aktion->setSeparator(titel == QLatin1Char('-'));
