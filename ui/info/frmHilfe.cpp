@@ -134,18 +134,18 @@ void frmHilfe::AnsichtAufbauen() {
   setCentralWidget(teiler);
 
   const QFontMetrics mass = fontMetrics();
-  const int links = mass.averageCharWidth() * 34;
-  const int rechts = mass.averageCharWidth() * 84;
-  teiler->setSizes({links, rechts});
+  anzSeite->document()->setDocumentMargin(mass.height());
+  const int links = mass.averageCharWidth() * 48;
+  const int rechts = mass.averageCharWidth() * 110;
   const QSize platz = screen()->availableSize() * 9 / 10;
-  resize(QSize(links + rechts, mass.height() * 36).boundedTo(platz));
+  resize(QSize(links + rechts, mass.height() * 44).boundedTo(platz));
+  teiler->setSizes({width() * links / (links + rechts), width() * rechts / (links + rechts)});
 }
 
 QWidget* frmHilfe::InhaltAufbauen() {
   treInhalt->setObjectName(u"treInhalt"_s);
   treInhalt->setAccessibleName(u"Inhalt des Handbuchs"_s);
   treInhalt->setHeaderHidden(true);
-  treInhalt->setWordWrap(true);
   QList<QTreeWidgetItem*> pfad;
   for (const Hilfeseite& seite : buch_.Inhalt()) {
     const int ebene = std::min(seite.ebene, static_cast<int>(pfad.size()));
@@ -220,7 +220,8 @@ void frmHilfe::Aufschlagen(const QUrl& ziel) {
 
 void frmHilfe::SeiteGewechselt(const QUrl& adresse) {
   // The browser's own source() still names the page before.
-  const QString seite = Seitenname(adresse);
+  const QString name = Seitenname(adresse);
+  const QString seite = name.startsWith(u"kontext-"_s) ? u"kontext.html"_s : name;
   setWindowTitle(u"Hilfe – "_s + anzSeite->documentTitle());
   for (QTreeWidgetItemIterator i(treInhalt); *i != nullptr; ++i) {
     if ((*i)->data(0, Seitenrolle).toString() == seite) treInhalt->setCurrentItem(*i);

@@ -91,7 +91,10 @@ void frmInfo::Aufbauen() {
   txtSystem->setPlainText(Systemangaben(*screen()));
   lblSystem->setBuddy(txtSystem);
   const QFontMetrics mass = fontMetrics();
-  txtSystem->setMinimumSize(mass.averageCharWidth() * 62, mass.lineSpacing() * 7);
+  txtSystem->setFixedHeight(mass.lineSpacing() * 7);
+  // A small screen would else cut the wrapped text: the window's height is bounded before its width is known.
+  const int textbreite = mass.averageCharWidth() * 64;
+  lblZweck->setMinimumSize(textbreite, lblZweck->heightForWidth(textbreite));
   cmdKopieren->setObjectName(u"cmdKopieren"_s);
   cmdKopieren->setAutoDefault(false);
   cmdOK->setObjectName(u"cmdOK"_s);

@@ -84,6 +84,7 @@ void frmTip::Aufbauen() {
   spalte->addWidget(txtTip, 1);
   spalte->addLayout(knoepfe);
   cmdOK->setFocus();
+  resize(minimumSizeHint());
 }
 
 void frmTip::NaechsterTip() {

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTreeWidget>
 #include <QWindow>
 
 #include "Druckskript.h"
@@ -92,6 +93,13 @@ TEST_F(HilfesystemTest, BeimModalenFensterGehoertDieHilfeZuIhm) {
     hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 4001);
     EXPECT_EQ(hilfe.Fenster()->windowHandle()->transientParent(), modal.windowHandle());
     EXPECT_TRUE(hilfe.Fenster()->isVisible());
+
+    // Through the native window, where a modal one would block the click.
+    auto& baum = Finden<QTreeWidget>(*hilfe.Fenster(), u"treInhalt"_s);
+    const QPoint stelle = baum.visualItemRect(baum.topLevelItem(1)).center();
+    QTest::mouseClick(hilfe.Fenster()->windowHandle(), Qt::LeftButton, {},
+                      baum.viewport()->mapTo(hilfe.Fenster(), stelle));
+    EXPECT_EQ(Seite(), u"zweck.html");
     modal.hide();
     EXPECT_TRUE(hilfe.Fenster()->isVisible());
   }
