@@ -20,7 +20,7 @@ namespace vesk {
 namespace {
 
 /// More than any list of tips; a file of another kind is not read to its end.
-constexpr qint64 LaengsteDatei = 1024 * 1024;
+constexpr qint64 LaengsteDatei = 1 << 20;
 
 std::vector<std::string> Laden(const QString& pfad) {
   QFile datei(pfad);
