@@ -103,7 +103,6 @@ void Dateiablauf::AnderswoMelden() {
 
 void Dateiablauf::NeuLesenUndAuffrischen() {
   InitLaden();
-  zustand_.werte.LetzteSpalte = std::exchange(zustand_.werte.Spalte, std::int16_t{0});
   fenster_.NachLadenAuffrischen();
 }
 

@@ -23,8 +23,8 @@ class Dateifenster {
   /// `Zustand` was read anew: fill the user's fields, the cells (in black), the check marks and the tints of
   /// the columns that `bericht` names. No handler answers to that, nothing counts as changed.
   virtual void StandZeigen(const Lesebericht& bericht) = 0;
-  /// After StandZeigen, but not at the start: caption of the frequency and tooltips follow the marks, the
-  /// marked column and the caption of the copy button are brought up to date.
+  /// After StandZeigen, but not at the start: caption of the frequency and tooltips follow the marks, no
+  /// column is the current one, the caption of the copy button is brought up to date.
   virtual void NachLadenAuffrischen() = 0;
   virtual void TitelSetzen(const QString& benutzer, const QString& haupt, const QString& datenblatt) = 0;
 

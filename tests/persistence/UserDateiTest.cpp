@@ -81,9 +81,9 @@ struct Fall {
 
 void Nichts(Zustand&) {}
 
-std::vector<Fall> Faelle() {
-  const std::string voll = UserDateiSchreiben(Musterstand());
-  std::vector<Fall> faelle = {
+/// Files that were damaged, edited by hand or never ours.
+std::vector<Fall> Textfaelle() {
+  return {
       {"empty", "", Nichts, Dateiversion::Ohne, false, true},
       {"only blank lines", "\r\n \r\n\r\n", Nichts, Dateiversion::Ohne, false, true},
       {"binary", "\0\x01\xFF,\"\"\"[[]]\n[\n]"s, Nichts, Dateiversion::Ohne, false, false},
@@ -115,76 +115,70 @@ std::vector<Fall> Faelle() {
        [](Zustand& z) { z.Zellen[0] = "01234567890123456789"; }, Dateiversion::Ohne, true, false},
       {"names that look like columns", "[G1],x\n[a],x\n[],x\n[Gx],x", Nichts, Dateiversion::Ohne, false,
        false},
-      {"signal type that is no 16-bit integer", "[Version],251\r\n" + Spaltenzeile("[A]", 24) + "40000,r1",
-       [](Zustand& z) {
-         Datenblattspalte& a = z.Datenblattspalten[1];
-         a = {"f1",  "f2",
-              "f3",  "f4",
-              "f5",  "f6",
-              "f7",  "f8",
-              "f9",  "f10",
-              "f11", "f12",
-              "f13", "f14",
-              "f15", {"f16", "f17", "f18", "f19", "f20", "f21", "f22", "f23", "f24"},
-              1,     {"r1", "2", "3"}};
-       },
-       Dateiversion::Aktuell, true, false},
       {"UTF-8 with mark", "\xEF\xBB\xBF\"[User]\"\r\n\"Jörg €\"",
        [](Zustand& z) { z.benutzer.Name = "Jörg €"; }, Dateiversion::Ohne, true, false},
       {"UTF-8 beyond Windows-1252", "\"[User]\"\r\n\"Jörg Ω\"",
        [](Zustand& z) { z.benutzer.Name = "Jörg ?"; }, Dateiversion::Ohne, true, false},
+  };
+}
+
+/// The 24 fields of the line that `Spaltenzeile` makes.
+void Alt(Datenblattspalte& s) {
+  s = {"f1",           "f2",     "f3",  "f4",
+       "f5",           "f6",     "f7",  "f8",
+       "f9",           "f10",    "f11", "f12",
+       "f13",          "f14",    "f15", {"f16", "f17", "f18", "f19", "f20", "f21", "f22", "f23", "f24"},
+       s.Grenzwerttyp, s.Reserve};
+}
+
+void AFuAn(Zustand& z) {
+  z.einstellungen.AFu = true;
+}
+
+/// The version decides whether reading goes on and how long a record is.
+std::vector<Fall> Versionsfaelle() {
+  const std::string voll = UserDateiSchreiben(Musterstand());
+  std::string spaeter = voll;
+  spaeter.replace(spaeter.find("251"), 3, "300");
+  return {
+      {"signal type that is no 16-bit integer", "[Version],251\r\n" + Spaltenzeile("[A]", 24) + "40000,r1",
+       [](Zustand& z) { Alt(z.Datenblattspalten[1]), z.Datenblattspalten[1].Reserve[0] = "r1"; },
+       Dateiversion::Aktuell, true, false},
       {"too old", "[User]\r\n" + Zeilen(8) + "[AFu],1\r\n[Version],\"210\"\r\n[Fenster],0",
-       [](Zustand& z) {
-         z.benutzer = {"1", "2", "3", "4", "5", "6", "7", "8"};
-         z.einstellungen.AFu = true;
-       },
+       [](Zustand& z) { z.benutzer = {"1", "2", "3", "4", "5", "6", "7", "8"}, AFuAn(z); },
        Dateiversion::ZuAlt, true, false},
       {"empty version", "[Version],\"\"\r\n[AFu],1", Nichts, Dateiversion::ZuAlt, false, false},
-      {"text comparison of versions", "[Version],99\r\n[AFu],1",
-       [](Zustand& z) { z.einstellungen.AFu = true; }, Dateiversion::Aktuell, true, false},
-      {"version missing at the end", "[AFu],1\r\n[Version]", [](Zustand& z) { z.einstellungen.AFu = true; },
-       Dateiversion::Ohne, true, false},
+      {"text comparison of versions", "[Version],99\r\n[AFu],1", AFuAn, Dateiversion::Aktuell, true, false},
+      {"version missing at the end", "[AFu],1\r\n[Version]", AFuAn, Dateiversion::Ohne, true, false},
+      {"24 fields without a version", Spaltenzeile("[A]", 24) + "\"[AFu]\",#TRUE#",
+       [](Zustand& z) { Alt(z.Datenblattspalten[1]), AFuAn(z); }, Dateiversion::Ohne, true, false},
+      {"24 fields of version 240", "[Version],240\r\n" + Spaltenzeile("[Foo]", 24) + "[AFu],1",
+       [](Zustand& z) { Alt(z.Datenblattspalten[6]), AFuAn(z); }, Dateiversion::Umwandelbar, true, false},
+      {"24 fields of version 250", "[Version],250\r\n" + Spaltenzeile("[C]", 24) + "[AFu],1",
+       [](Zustand& z) { Alt(z.Datenblattspalten[3]), AFuAn(z); }, Dateiversion::Umwandelbar, true, false},
+      {"as it was", voll, Nichts, Dateiversion::Aktuell, true, true},
+      {"later version", spaeter, Nichts, Dateiversion::Aktuell, true, false},
   };
-  const auto alteSpalte = [](Zustand& z, std::size_t nummer) {
-    Datenblattspalte& s = z.Datenblattspalten[nummer];
-    s = {"f1",           "f2",     "f3",  "f4",
-         "f5",           "f6",     "f7",  "f8",
-         "f9",           "f10",    "f11", "f12",
-         "f13",          "f14",    "f15", {"f16", "f17", "f18", "f19", "f20", "f21", "f22", "f23", "f24"},
-         s.Grenzwerttyp, s.Reserve};
-  };
-  faelle.push_back({"24 fields without a version", Spaltenzeile("[A]", 24) + "\"[AFu]\",#TRUE#",
-                    [=](Zustand& z) { alteSpalte(z, 1), z.einstellungen.AFu = true; }, Dateiversion::Ohne,
-                    true, false});
-  faelle.push_back({"24 fields of version 240", "[Version],240\r\n" + Spaltenzeile("[Foo]", 24) + "[AFu],1",
-                    [=](Zustand& z) { alteSpalte(z, 6), z.einstellungen.AFu = true; },
-                    Dateiversion::Umwandelbar, true, false});
-  faelle.push_back({"24 fields of version 250", "[Version],250\r\n" + Spaltenzeile("[C]", 24) + "[AFu],1",
-                    [=](Zustand& z) { alteSpalte(z, 3), z.einstellungen.AFu = true; },
-                    Dateiversion::Umwandelbar, true, false});
-  faelle.push_back({"as it was", voll, Nichts, Dateiversion::Aktuell, true, true});
-  faelle.push_back({"later version",
-                    [&] {
-                      auto b = voll;
-                      b.replace(b.find("251"), 3, "300");
-                      return b;
-                    }(),
-                    Nichts, Dateiversion::Aktuell, true, false});
-  return faelle;
+}
+
+void Pruefen(const Fall& fall) {
+  SCOPED_TRACE(fall.name);
+  Zustand soll = Musterstand();
+  fall.wirkung(soll);
+  Zustand ist = Musterstand();
+  const Lesebericht bericht = UserDateiLesen(fall.bytes, ist);
+  EXPECT_TRUE(GleicherInhalt(ist, soll)) << UserDateiSchreiben(ist);
+  EXPECT_EQ(bericht.version, fall.version);
+  EXPECT_EQ(bericht.etwasGelesen, fall.etwasGelesen);
+  EXPECT_EQ(bericht.verlustfrei, fall.verlustfrei);
 }
 
 TEST(UserDatei, WasNichtLesbarIstBleibt) {
-  for (const Fall& fall : Faelle()) {
-    SCOPED_TRACE(fall.name);
-    Zustand soll = Musterstand();
-    fall.wirkung(soll);
-    Zustand ist = Musterstand();
-    const Lesebericht bericht = UserDateiLesen(fall.bytes, ist);
-    EXPECT_TRUE(GleicherInhalt(ist, soll)) << UserDateiSchreiben(ist);
-    EXPECT_EQ(bericht.version, fall.version);
-    EXPECT_EQ(bericht.etwasGelesen, fall.etwasGelesen);
-    EXPECT_EQ(bericht.verlustfrei, fall.verlustfrei);
-  }
+  for (const Fall& fall : Textfaelle()) Pruefen(fall);
+}
+
+TEST(UserDatei, WasDieVersionBewirkt) {
+  for (const Fall& fall : Versionsfaelle()) Pruefen(fall);
 }
 
 TEST(UserDatei, JederAnfangEinerDateiIstLesbar) {
