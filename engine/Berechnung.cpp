@@ -61,23 +61,6 @@ int Nahfeldflags(const Rechenergebnis& e, const Stationswerte& s) {
   return flags;
 }
 
-void Zuruecksetzen(Rechenwerte& werte) {
-  werte.GrenzwertOhneHSM = werte.GrenzwertHSM306 = werte.GrenzwertHSMvde = 0;
-  werte.SpitzenfeldHSM306 = werte.Uss306 = werte.UssVDE = 0;
-}
-
-void Eintragen(const Grenzwerte& g, Rechenwerte& werte) {
-  werte.QRGGrenzwert = g.frequenz.grenzwert;
-  werte.QRGHSM = g.frequenz.hsm;
-  werte.QRGLambda = g.frequenz.lambda;
-  werte.GrenzwertOhneHSM = g.ohneHSM;
-  werte.GrenzwertHSM306 = g.hsm306.Grenzwert;
-  werte.GrenzwertHSMvde = g.hsmVDE.Grenzwert;
-  werte.SpitzenfeldHSM306 = g.hsm306.Spitzenfeld;
-  werte.Uss306 = g.hsm306.Uss;
-  werte.UssVDE = g.hsmVDE.Uss;
-}
-
 float ZahlOderNull(std::string& text) {
   if (text.empty()) text = "0";
   return Zahl(text);
@@ -119,6 +102,23 @@ void FelderBestimmen(Grenzwerte& g) {
   g.Fernfeld = AlsSingle(4.0 * g.Lambda);
 }
 
+void GrenzwerteZuruecksetzen(Rechenwerte& werte) {
+  werte.GrenzwertOhneHSM = werte.GrenzwertHSM306 = werte.GrenzwertHSMvde = 0;
+  werte.SpitzenfeldHSM306 = werte.Uss306 = werte.UssVDE = 0;
+}
+
+void GrenzwerteEintragen(const Grenzwerte& g, Rechenwerte& werte) {
+  werte.QRGGrenzwert = g.frequenz.grenzwert;
+  werte.QRGHSM = g.frequenz.hsm;
+  werte.QRGLambda = g.frequenz.lambda;
+  werte.GrenzwertOhneHSM = g.ohneHSM;
+  werte.GrenzwertHSM306 = g.hsm306.Grenzwert;
+  werte.GrenzwertHSMvde = g.hsmVDE.Grenzwert;
+  werte.SpitzenfeldHSM306 = g.hsm306.Spitzenfeld;
+  werte.Uss306 = g.hsm306.Uss;
+  werte.UssVDE = g.hsmVDE.Uss;
+}
+
 void AusgabenBestimmen(const Stationswerte& station, Modus modus, Rechenergebnis& ergebnis) {
   ergebnis.modus = modus;
   if (modus == Modus::Abstand) {
@@ -133,13 +133,13 @@ void AusgabenBestimmen(const Stationswerte& station, Modus modus, Rechenergebnis
 Rechenergebnis Berechnen(Rechenwerte& werte, const Rechenart& art) {
   Rechenergebnis ergebnis;
   ergebnis.modus = art.modus;
-  Zuruecksetzen(werte);
+  GrenzwerteZuruecksetzen(werte);
   try {
     Durchrechnen(werte, art, ergebnis);
   } catch (const Laufzeitfehler& fehler) {
     ergebnis.fehler = fehler.art;
   }
-  if (ergebnis.begonnen) Eintragen(ergebnis.grenzwerte, werte);
+  if (ergebnis.begonnen) GrenzwerteEintragen(ergebnis.grenzwerte, werte);
   return ergebnis;
 }
 

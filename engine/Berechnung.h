@@ -67,6 +67,11 @@ Grenzwerte GrenzwerteBestimmen(float qrg, bool afu, std::int16_t grenzwerttyp);
 /// Wavelength, near and far field. Throws Laufzeitfehler for a wavelength that is no single.
 void FelderBestimmen(Grenzwerte& grenzwerte);
 
+/// Limits, thresholds and peak field of the record back to 0, as at the start of every calculation.
+void GrenzwerteZuruecksetzen(Rechenwerte& werte);
+/// Frequencies, limits, thresholds and peak field into the record.
+void GrenzwerteEintragen(const Grenzwerte& grenzwerte, Rechenwerte& werte);
+
 /// Distances or powers from numbers. `ergebnis.grenzwerte` is given; the rest is filled as far as the
 /// calculation gets. Throws Laufzeitfehler.
 void AusgabenBestimmen(const Stationswerte& station, Modus modus, Rechenergebnis& ergebnis);

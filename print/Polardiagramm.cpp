@@ -1,0 +1,216 @@
+#include "Polardiagramm.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRectF>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace vesk::polardiagramm {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Sektorgrad = 10;
+constexpr QColor Gitterfarbe(0xB0, 0xB0, 0xB0);
+
+/// Rings of the scale: every `schritt` units up to `rand`.
+struct Ringe {
+  double schritt = 1;
+  double rand = 1;
+};
+
+/// Steps of 1, 2 or 5 times a power of ten, so that four to ten of them reach `hoechster`.
+Ringe RingeBis(double hoechster) {
+  if (!(hoechster > 0)) return {};
+  const double zehner = std::pow(10.0, std::floor(std::log10(hoechster / 4)));
+  const double anteil = hoechster / 4 / zehner;
+  const double schritt = zehner * (anteil >= 5 ? 5 : anteil >= 2 ? 2 : 1);
+  return {schritt, schritt * std::ceil(hoechster / schritt)};
+}
+
+class Zeichnung {
+ public:
+  Zeichnung(QPainter& maler, const QRectF& flaeche, const Polardaten& daten);
+  void Zeichnen();
+
+ private:
+  void SkalaBestimmen();
+  double Radius(double wert) const;
+  /// `grad` from the main direction, clockwise.
+  QPointF Punkt(double grad, double radius) const;
+
+  void Gitter();
+  void Gradzahlen();
+  void Ringzahlen();
+  void Kurve(const Polarkurve& kurve);
+  void Legende(QRectF platz);
+
+  QPainter& maler_;
+  const QRectF flaeche_;
+  const Polardaten& daten_;
+  const double zeile_;  ///< height of a text line
+  Ringe ringe_;
+  QPointF mitte_;
+  double radius_ = 0;
+};
+
+Zeichnung::Zeichnung(QPainter& maler, const QRectF& flaeche, const Polardaten& daten)
+    : maler_(maler), flaeche_(flaeche), daten_(daten), zeile_(QFontMetricsF(maler.font()).height()) {
+  SkalaBestimmen();
+  // From top to bottom: title, degrees at the rim, half disc, numbers of the rings, legend.
+  const double oben = 2.8 * zeile_;
+  const double unten = 2.6 * zeile_;
+  const double seite = 2.2 * zeile_;
+  radius_ = std::max(0.0, std::min(flaeche.width() / 2 - seite, flaeche.height() - oben - unten));
+  mitte_ = QPointF(flaeche.center().x(), flaeche.top() + oben + radius_);
+}
+
+void Zeichnung::SkalaBestimmen() {
+  double hoechster = 0;
+  for (const Polarkurve& kurve : daten_.kurven) {
+    for (const auto& wert : kurve.werte) hoechster = std::max(hoechster, wert.value_or(0));
+  }
+  if (daten_.skala == Polarskala::Abstand) {
+    ringe_ = RingeBis(hoechster);
+    return;
+  }
+  // The centre lies one ring below the weakest sector, so that it is seen to radiate.
+  constexpr double Schritt = 10;
+  constexpr double Mindestens = 30;
+  constexpr double Hoechstens = 100;
+  const double bis = Schritt * (std::floor(hoechster / Schritt) + 1);
+  ringe_ = {Schritt, std::clamp(bis, Mindestens, Hoechstens)};
+}
+
+double Zeichnung::Radius(double wert) const {
+  const double anteil = std::clamp(wert / ringe_.rand, 0.0, 1.0);
+  return radius_ * (daten_.skala == Polarskala::Daempfung ? 1 - anteil : anteil);
+}
+
+QPointF Zeichnung::Punkt(double grad, double radius) const {
+  const double bogen = grad * std::numbers::pi / 180;
+  return mitte_ + QPointF(radius * std::sin(bogen), -radius * std::cos(bogen));
+}
+
+void Zeichnung::Zeichnen() {
+  maler_.save();
+  maler_.setRenderHint(QPainter::Antialiasing);
+  maler_.fillRect(flaeche_, Qt::white);
+  maler_.setPen(Qt::black);
+  maler_.drawText(QRectF(flaeche_.left(), flaeche_.top(), flaeche_.width(), 1.2 * zeile_), Qt::AlignCenter,
+                  daten_.titel + u" ["_s + daten_.einheit + u']');
+  if (radius_ > zeile_) {
+    Gitter();
+    for (const Polarkurve& kurve : daten_.kurven) Kurve(kurve);
+    Gradzahlen();
+    Ringzahlen();
+  }
+  Legende(QRectF(flaeche_.left(), mitte_.y() + 1.2 * zeile_, flaeche_.width(), 1.2 * zeile_));
+  maler_.restore();
+}
+
+void Zeichnung::Gitter() {
+  constexpr int Viertelgrad = 16 * 90;
+  maler_.setBrush(Qt::NoBrush);
+  maler_.setPen(QPen(Gitterfarbe, 0));
+  for (double wert = 0; wert <= ringe_.rand * 1.001; wert += ringe_.schritt) {
+    const double r = Radius(wert);
+    maler_.drawArc(QRectF(mitte_ - QPointF(r, r), mitte_ + QPointF(r, r)), 0, 2 * Viertelgrad);
+  }
+  for (int grad = -90; grad <= 90; grad += Sektorgrad) maler_.drawLine(mitte_, Punkt(grad, radius_));
+}
+
+void Zeichnung::Gradzahlen() {
+  maler_.setPen(Qt::black);
+  for (int grad = -90; grad <= 90; grad += 30) {
+    QPointF ort = Punkt(grad, radius_ + 0.9 * zeile_);
+    if (std::abs(grad) == 90) ort.ry() -= 0.5 * zeile_;  // clear of the numbers of the rings
+    const QRectF platz(ort.x() - 2 * zeile_, ort.y() - zeile_, 4 * zeile_, 2 * zeile_);
+    maler_.drawText(platz, Qt::AlignCenter, QString::number(std::abs(grad)) + u"°"_s);
+  }
+}
+
+void Zeichnung::Ringzahlen() {
+  const QFontMetricsF mass(maler_.font());
+  std::vector<double> werte;
+  for (double wert = 0; wert <= ringe_.rand * 1.001; wert += ringe_.schritt) werte.push_back(wert);
+  // From the rim inwards; a number that would touch the one before is left out.
+  if (daten_.skala == Polarskala::Abstand) std::reverse(werte.begin(), werte.end());
+  double frei = 2 * radius_;
+  for (const double wert : werte) {
+    const QString text = QString::number(wert, 'g', 4);
+    const double breite = mass.horizontalAdvance(text) + 0.4 * zeile_;
+    const double x = Radius(wert);
+    if (x + breite / 2 > frei) continue;
+    frei = x - breite / 2;
+    maler_.drawText(QRectF(mitte_.x() + frei, mitte_.y() + 0.1 * zeile_, breite, zeile_), Qt::AlignCenter,
+                    text);
+  }
+}
+
+void Zeichnung::Kurve(const Polarkurve& kurve) {
+  // A sector has one value, so the curve is a flight of arcs; a sector without a value leaves a gap.
+  QPainterPath pfad;
+  bool verbunden = false;
+  for (int i = -static_cast<int>(PolarSektoren); i < static_cast<int>(PolarSektoren); ++i) {
+    const auto sektor = static_cast<std::size_t>(i < 0 ? -i - 1 : i);
+    const std::optional<double>& wert = kurve.werte.at(sektor);
+    if (wert) {
+      const double r = Radius(*wert);
+      const QPointF anfang = Punkt(i * Sektorgrad, r);
+      if (verbunden) {
+        pfad.lineTo(anfang);
+      } else {
+        pfad.moveTo(anfang);
+      }
+      const QRectF kreis(mitte_ - QPointF(r, r), mitte_ + QPointF(r, r));
+      if (r > 0) pfad.arcTo(kreis, 90 - i * Sektorgrad, -Sektorgrad);
+    }
+    verbunden = wert.has_value();
+  }
+  QPen stift(kurve.farbe, zeile_ / 8, kurve.strich, Qt::FlatCap, Qt::RoundJoin);
+  maler_.setPen(stift);
+  maler_.setBrush(Qt::NoBrush);
+  maler_.drawPath(pfad);
+}
+
+void Zeichnung::Legende(QRectF platz) {
+  const QFontMetricsF mass(maler_.font());
+  const double strich = 2 * zeile_;
+  const double abstand = 0.4 * zeile_;
+  double breite = -abstand;
+  std::vector<const Polarkurve*> kurven;
+  for (const Polarkurve& kurve : daten_.kurven) {
+    const auto& werte = kurve.werte;
+    if (std::any_of(werte.begin(), werte.end(), [](const auto& wert) { return wert.has_value(); })) {
+      kurven.push_back(&kurve);
+    }
+  }
+  for (const Polarkurve* kurve : kurven) {
+    breite += strich + mass.horizontalAdvance(kurve->name) + 3 * abstand;
+  }
+  double x = platz.center().x() - breite / 2;
+  for (const Polarkurve* kurve : kurven) {
+    const double y = platz.center().y();
+    maler_.setPen(QPen(kurve->farbe, zeile_ / 8, kurve->strich, Qt::FlatCap));
+    maler_.drawLine(QPointF(x, y), QPointF(x + strich, y));
+    x += strich + abstand;
+    maler_.setPen(Qt::black);
+    const double text = mass.horizontalAdvance(kurve->name) + abstand;
+    maler_.drawText(QRectF(x, platz.top(), text, platz.height()), Qt::AlignLeft | Qt::AlignVCenter,
+                    kurve->name);
+    x += text + abstand;
+  }
+}
+
+}  // namespace
+
+void paint(QPainter& maler, const QRectF& flaeche, const Polardaten& daten) {
+  Zeichnung(maler, flaeche, daten).Zeichnen();
+}
+
+}  // namespace vesk::polardiagramm

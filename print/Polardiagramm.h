@@ -1,0 +1,43 @@
+#pragma once
+#include <QColor>
+#include <QString>
+#include <array>
+#include <optional>
+#include <vector>
+
+class QPainter;
+class QRectF;
+
+namespace vesk {
+
+inline constexpr std::size_t PolarSektoren = 9;
+
+/// One quantity over the sectors of 10 degrees, from the main direction to 90 degrees.
+struct Polarkurve {
+  QString name;  ///< of the legend
+  QColor farbe;
+  Qt::PenStyle strich = Qt::SolidLine;
+  std::array<std::optional<double>, PolarSektoren> werte;
+};
+
+/// What the radius means.
+enum class Polarskala {
+  Daempfung,  ///< dB below the main lobe: 0 at the rim, growing inwards
+  Abstand,    ///< 0 in the centre, growing outwards
+};
+
+struct Polardaten {
+  QString titel;
+  QString einheit;
+  Polarskala skala = Polarskala::Abstand;
+  std::vector<Polarkurve> kurven;  ///< later ones lie on top
+};
+
+namespace polardiagramm {
+
+/// Draws the front half, mirrored about the main direction (up), in black and the curves' colours on white,
+/// whatever the theme. The font is the painter's.
+void paint(QPainter& maler, const QRectF& flaeche, const Polardaten& daten);
+
+}  // namespace polardiagramm
+}  // namespace vesk
