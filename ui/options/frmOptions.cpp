@@ -7,12 +7,15 @@
 #include <QScreen>
 #include <QTabWidget>
 
+#include "AntennenTab.h"
 #include "Datenblatt.h"
+#include "KabelTab.h"
 #include "Laufzeitfehler.h"
 #include "OptionenHilfe.h"
 #include "OptionenUmgebung.h"
 #include "Rollseite.h"
 #include "SendeartTab.h"
+#include "WinkelTab.h"
 #include "Zustand.h"
 
 namespace vesk {
@@ -33,9 +36,13 @@ frmOptions::frmOptions(Zustand& zustand, Plattform& plattform, OptionenUmgebung&
   SSTab1->setObjectName(u"SSTab1"_s);
   sendeart_ = new SendeartTab(zustand, plattform, umgebung);
   SSTab1->addTab(new Rollseite(sendeart_), u"Sendeart"_s);
-  SSTab1->addTab(new Rollseite(new QWidget), u"Kabel"_s);
-  SSTab1->addTab(new Rollseite(new QWidget), u"Antennen"_s);
-  SSTab1->addTab(new Rollseite(new QWidget), u"Winkel"_s);
+  kabel_ = new KabelTab(zustand, plattform, umgebung);
+  SSTab1->addTab(new Rollseite(kabel_), u"Kabel"_s);
+  antennen_ = new AntennenTab(zustand, plattform, umgebung);
+  SSTab1->addTab(new Rollseite(antennen_), u"Antennen"_s);
+  winkel_ = new WinkelTab(zustand, plattform, umgebung);
+  SSTab1->addTab(new Rollseite(winkel_), u"Winkel"_s);
+  connect(antennen_, &AntennenTab::antenneGewaehlt, winkel_, &WinkelTab::AntenneSetzen);
   setCentralWidget(SSTab1);
   MenueBauen();
   connect(SSTab1, &QTabWidget::currentChanged, this, &frmOptions::ReiterGewechselt);
@@ -47,10 +54,10 @@ void frmOptions::MenueBauen() {
   mnuDatei = menuBar()->addMenu(u"&Datei"_s);
   mnuDatei->menuAction()->setObjectName(u"mnuDatei"_s);
   mnuDatei->setToolTipsVisible(true);
-  Eintrag(u"mnuWinkelLaden"_s, u"Daten &laden"_s);
-  Eintrag(u"mnuWinkelSpeichern"_s, u"Daten &Speichern"_s);
-  Eintrag(u"mnuWinkelUnter"_s, u"Daten speichern &Unter"_s);
-  Eintrag(u"mnuWDelete"_s, u"Daten &Löschen"_s);
+  Winkeleintrag(u"mnuWinkelLaden"_s, u"Daten &laden"_s, &WinkelTab::WinkelOeffnen);
+  Winkeleintrag(u"mnuWinkelSpeichern"_s, u"Daten &Speichern"_s, &WinkelTab::WinkelSpeichern);
+  Winkeleintrag(u"mnuWinkelUnter"_s, u"Daten speichern &Unter"_s, &WinkelTab::WinkelSpeichernUnter);
+  Winkeleintrag(u"mnuWDelete"_s, u"Daten &Löschen"_s, &WinkelTab::TabelleLoeschen);
   Gesperrt(u"mnuWNoChange"_s, u"Änderungen &Rückgängig machen"_s,
            u"Die gespeicherte Tabelle kommt mit \"Daten laden\" zurück."_s);
   mnuDatei->addSeparator();
@@ -59,7 +66,7 @@ void frmOptions::MenueBauen() {
   Gesperrt(u"mnuWHSM306"_s, u"Daten Drucken HSM &306"_s, spaeter);
   Gesperrt(u"mnuWHSMvde"_s, u"Daten Drucken HSM &VDE"_s, spaeter);
   mnuDatei->addSeparator();
-  Eintrag(u"mnuWinkelBeispiel"_s, u"&Beispiel"_s);
+  Winkeleintrag(u"mnuWinkelBeispiel"_s, u"&Beispiel"_s, &WinkelTab::Beispiel);
 
   QAction* fenster = menuBar()->addAction(u"&Fenster Schließen"_s);
   fenster->setObjectName(u"mnuFenster"_s);
@@ -70,6 +77,10 @@ QAction* frmOptions::Eintrag(const QString& name, const QString& text) {
   QAction* eintrag = mnuDatei->addAction(text);
   eintrag->setObjectName(name);
   return eintrag;
+}
+
+void frmOptions::Winkeleintrag(const QString& name, const QString& text, void (WinkelTab::*tun)()) {
+  connect(Eintrag(name, text), &QAction::triggered, winkel_, [this, tun] { (winkel_->*tun)(); });
 }
 
 void frmOptions::Gesperrt(const QString& name, const QString& text, const QString& grund) {
@@ -85,7 +96,10 @@ void frmOptions::ReiterGewechselt(int reiter) {
 void frmOptions::Laden() {
   zustand_.Datenblattspalten.front() = LeereSpalte();
   sendeart_->Laden();
+  kabel_->Laden();
   sendeart_->Vorbelegen();
+  antennen_->Laden();
+  winkel_->Laden();
   // Room for the largest tab; the desktop's own bars and the window's frame need a little, too.
   resize(sizeHint().boundedTo(screen()->availableSize() * 0.95));
 }
@@ -100,10 +114,29 @@ void frmOptions::SatzLaden() {
   // A copy: the tabs write to the records while they load.
   const Datenblattspalte satz = zustand_.Datenblattspalten.at(spalte);
   sendeart_->SatzLaden(satz);
+  kabel_->SatzLaden(satz);
+  antennen_->SatzLaden(satz);
+  winkel_->SatzLaden(satz);
 }
 
 void frmOptions::ArbeitssatzAuffrischen() {
-  sendeart_->SatzSchreiben(zustand_.Datenblattspalten.front());
+  Datenblattspalte& satz = zustand_.Datenblattspalten.front();
+  sendeart_->SatzSchreiben(satz);
+  kabel_->SatzSchreiben(satz);
+  antennen_->SatzSchreiben(satz);
+  winkel_->SatzSchreiben(satz);
+}
+
+void frmOptions::HauptfrequenzUebernehmen(const QString& text) {
+  kabel_->HauptfrequenzUebernehmen(text);
+}
+
+void frmOptions::AntEinPWRSetzen(const QString& text) {
+  winkel_->AntEinPWRSetzen(text);
+}
+
+void frmOptions::RechnungZeigen(const Feldtexte& texte) {
+  winkel_->RechnungZeigen(texte);
 }
 
 QString frmOptions::GewaehlteSendearten() const {

@@ -8,7 +8,11 @@ class QTabWidget;
 namespace vesk {
 
 class OptionenUmgebung;
+class AntennenTab;
+class Feldtexte;
+class KabelTab;
 class SendeartTab;
+class WinkelTab;
 struct Plattform;
 struct Zustand;
 
@@ -53,6 +57,13 @@ class frmOptions : public QMainWindow {
   /// were calculated with.
   void ArbeitssatzAuffrischen();
 
+  /// The main window's frequency was changed: the cable loss follows it. Throws Laufzeitfehler.
+  void HauptfrequenzUebernehmen(const QString& text);
+  /// The main window's power field was left.
+  void AntEinPWRSetzen(const QString& text);
+  /// A calculation of the main window has texts for the angle tab.
+  void RechnungZeigen(const Feldtexte& texte);
+
   /// Abbreviations of the ticked modes (txtSelectedModes), for the data sheet.
   QString GewaehlteSendearten() const;
 
@@ -62,6 +73,7 @@ class frmOptions : public QMainWindow {
  private:
   void MenueBauen();
   QAction* Eintrag(const QString& name, const QString& text);
+  void Winkeleintrag(const QString& name, const QString& text, void (WinkelTab::*tun)());
   /// An entry without action; its tooltip says why.
   void Gesperrt(const QString& name, const QString& text, const QString& grund);
   /// The file menu belongs to the angle tab alone.
@@ -72,6 +84,9 @@ class frmOptions : public QMainWindow {
 
   QTabWidget* SSTab1;
   SendeartTab* sendeart_;
+  KabelTab* kabel_;
+  AntennenTab* antennen_;
+  WinkelTab* winkel_;
   QMenu* mnuDatei;
 };
 

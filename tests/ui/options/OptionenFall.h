@@ -1,7 +1,11 @@
 #pragma once
 #include <QCheckBox>
+#include <QFile>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QRadioButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
 #include <QtTest/QtTest>
 
 #include "Datenblatt.h"
@@ -15,10 +19,17 @@ namespace vesk {
 
 using namespace Qt::StringLiterals;
 
-/// The options window among scripted neighbours, loaded and shown, as the program starts it.
+/// The options window among scripted neighbours, loaded and shown, as the program starts it, in a directory
+/// of its own with the shipped catalogues or those that the test has put there before.
 class OptionenFall : public testing::Test {
  protected:
   void SetUp() override {
+    for (const QString& name : {u"Kabel.txt"_s, u"Antennen.txt"_s}) {
+      if (!QFile::exists(verzeichnis.filePath(name))) {
+        QFile::copy(QStringLiteral(VESK_DATEN_VERZEICHNIS "/") + name, verzeichnis.filePath(name));
+      }
+    }
+    zustand.ProgrammVerzeichnis = verzeichnis.path().toStdString();
     zustand.Datenblattspalten.fill(LeereSpalte());
     fenster.Laden();
     fenster.show();
@@ -29,6 +40,32 @@ class OptionenFall : public testing::Test {
   void Klicken(const QString& name) {
     auto& knopf = Finden<QAbstractButton>(fenster, name);
     QTest::mouseClick(&knopf, Qt::LeftButton, {}, QPoint(8, knopf.height() / 2));
+  }
+  void Reiter(int seite) { Finden<QTabWidget>(fenster, u"SSTab1"_s).setCurrentIndex(seite); }
+  /// Real keys into a field that has the focus afterwards.
+  void Tippen(const QString& name, const QString& text) {
+    auto& feld = Finden<QLineEdit>(fenster, name);
+    feld.setFocus();
+    QTest::keyClicks(&feld, text);
+  }
+  void FeldKlicken(const QString& name, Qt::MouseButton taste = Qt::LeftButton) {
+    QTest::mouseClick(&Finden<QLineEdit>(fenster, name), taste);
+  }
+  void ZeileKlicken(const QString& name, const QString& teil) {
+    auto& liste = Finden<QListWidget>(fenster, name);
+    const auto treffer = liste.findItems(teil, Qt::MatchContains);
+    ASSERT_FALSE(treffer.isEmpty()) << teil.toStdString();
+    liste.scrollToItem(treffer.first());
+    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, liste.visualItemRect(treffer.first()).center());
+  }
+  QByteArray Datei(const QString& name) {
+    QFile datei(verzeichnis.filePath(name));
+    return datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray();
+  }
+  void DateiAnlegen(const QString& name, const QByteArray& bytes) {
+    QFile datei(verzeichnis.filePath(name));
+    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+    datei.write(bytes);
   }
   void WarnungErwarten(Antwort antwort = Antwort::Ja) {
     buehne.boxen.Erwarten(u"Faktor für vorgesehene Sendeart <1"_s, u"Faktor <1 ermittelt"_s, antwort);
@@ -52,6 +89,7 @@ class OptionenFall : public testing::Test {
     umgebung.zellen.at(static_cast<std::size_t>(Gitterindex(spalte, ZeileBetriebsarten))) = arten;
   }
 
+  QTemporaryDir verzeichnis;
   Zustand zustand;
   skript::Buehne buehne;
   skript::Umgebung umgebung;

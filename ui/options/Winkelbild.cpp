@@ -1,0 +1,33 @@
+#include "Winkelbild.h"
+
+#include <QPainter>
+
+namespace vesk {
+
+Winkelbild::Winkelbild(QWidget* eltern) : QWidget(eltern) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void Winkelbild::Zeigen(const Polardaten& daempfung, const Polardaten& abstaende) {
+  daempfung_ = daempfung;
+  abstaende_ = abstaende;
+  update();
+}
+
+QSize Winkelbild::sizeHint() const {
+  return {24 * fontMetrics().height(), 27 * fontMetrics().height()};
+}
+
+QSize Winkelbild::minimumSizeHint() const {
+  return {18 * fontMetrics().height(), 22 * fontMetrics().height()};
+}
+
+void Winkelbild::paintEvent(QPaintEvent* /*ereignis*/) {
+  QPainter maler(this);
+  maler.setFont(font());
+  const QRectF oben(0, 0, width(), height() / 2.0);
+  polardiagramm::paint(maler, oben, daempfung_);
+  polardiagramm::paint(maler, oben.translated(0, oben.height()), abstaende_);
+}
+
+}  // namespace vesk
