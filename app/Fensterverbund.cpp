@@ -30,7 +30,8 @@ void Fensterverbund::KopierenFreigeben() {
   hauptfenster_.KopierenErlauben(!NaechsteFreieSpalte(zustand_.Zellen).empty());
 }
 
-void Fensterverbund::NachRechnung(const Rechenergebnis& ergebnis, const Feldtexte&) {
+void Fensterverbund::NachRechnung(const Rechenergebnis& ergebnis, const Feldtexte& texte) {
+  optionen_->RechnungZeigen(texte);
   if (ergebnis.vollstaendig) KopierenFreigeben();
 }
 

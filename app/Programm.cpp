@@ -3,12 +3,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QLocale>
 #include <QTimer>
 #include <QWindow>
 #include <utility>
 
 #include "Datenblatthilfe.h"
+#include "Dezimaltrenner.h"
 #include "Meldung.h"
 #include "OptionenHilfe.h"
 #include "Spaltenkopie.h"
@@ -62,7 +62,7 @@ void Programm::Starten() {
   const QString beimStart =
       plattform_.speicher.Lesen(u"Options"_s, u"Show Tips at Startup"_s).value_or(QString());
   if (beimStart.isEmpty()) plattform_.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s);
-  if (beimStart.isEmpty() || Zahl(beimStart.toStdString()) == 1) TipZeigen();
+  if (beimStart.isEmpty() || beimStart.toInt() == 1) TipZeigen();
 
   if (hauptfenster_.Aktion("mnuAFu").property("Tag").toString().isEmpty()) {
     hauptfenster_.Aktion("mnuAFu").setChecked(true);
@@ -89,10 +89,13 @@ void Programm::HauptfensterVerbinden() {
     connect(&hauptfenster_, signal, this, Antwort([this, tun] { (this->*tun)(); }));
   };
   an(&frmVesk::berechnenVerlangt, &Programm::BerechnenKnopf);
+  connect(&hauptfenster_, &frmVesk::berechnenLosgelassen, this,
+          [this] { QTimer::singleShot(0, this, Antwort([this] { NachQrgWechsel(); })); });
   an(&frmVesk::kopierenVerlangt, &Programm::Kopieren);
   an(&frmVesk::qrgVerlassen, &Programm::QrgVerlassen);
   an(&frmVesk::modusGeklickt, &Programm::ModusGeklickt);
   an(&frmVesk::geschlossen, &Programm::Beenden);
+  connect(&hauptfenster_, &frmVesk::pwrVerlassen, &optionen_, &frmOptions::AntEinPWRSetzen);
   connect(&hauptfenster_, &frmVesk::qrgGeklickt, this, [this] { hauptfenster_.Aktion("mnuAFu").trigger(); });
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* fenster) {
     if (fenster == nullptr) return;
@@ -185,6 +188,7 @@ void Programm::Kopieren() {
 
 void Programm::AFuUmgeschaltet() {
   Rechenwerte& werte = zustand_.werte;
+  rechnungSteht_ = false;
   hauptfenster_.Uebernehmen();
   hauptfenster_.AFuZeigen();
   zustand_.UserGeaendert = true;
@@ -214,20 +218,21 @@ void Programm::QrgVerlassen() {
   const std::string vorher = zustand_.werte.QRGText;
   hauptfenster_.TexteUebernehmen();
   const std::string& text = zustand_.werte.QRGText;
-  if (text == vorher || Zahl(text) <= 0) return;
-
+  if (text == vorher) return;
   // The focus must settle before a warning opens; otherwise a click on "=" would be lost to the box.
   rechnungSteht_ = true;
   QTimer::singleShot(0, this, Antwort([this] { NachQrgWechsel(); }));
 }
 
 void Programm::NachQrgWechsel() {
-  if (!rechnungSteht_) return;
+  // Pressed, the calculate button decides; let go beside it, it comes back here.
+  if (!rechnungSteht_ || hauptfenster_.BerechnenGedrueckt()) return;
   rechnungSteht_ = false;
-  if (hauptfenster_.BerechnenGedrueckt()) return;
+  if (zustand_.werte.Spalte != 0) return;
   hauptfenster_.TexteUebernehmen();
   const float qrg = Zahl(zustand_.werte.QRGText);
   if (qrg <= 0) return;
+  optionen_.HauptfrequenzUebernehmen(QString::fromStdString(zustand_.werte.QRGText));
   if (Zahl(zustand_.werte.PWRText) > 0) {
     verbund_.Berechnen(true);
   } else {
@@ -269,8 +274,7 @@ void Programm::BenutzerZeigen() {
 
 void Programm::LeistungsumrechnungZeigen() {
   if (!leistung_) {
-    leistung_ = std::make_unique<frmLstg>(plattform_, zustand_.werte,
-                                          QLocale().decimalPoint().at(0).toLatin1(), &hauptfenster_);
+    leistung_ = std::make_unique<frmLstg>(plattform_, zustand_.werte, Dezimaltrenner(), &hauptfenster_);
     leistung_->ToolTips(hauptfenster_.Aktion("mnuToolTips").isChecked());
   }
   leistung_->show();
@@ -319,8 +323,13 @@ void Programm::DateimenueSperren(bool gesperrt) {
 }
 
 void Programm::Beenden() {
-  if (!ablauf_.Beenden()) return;
+  // Hiding and asking take the focus away; that is no leaving of a field.
+  rechnungSteht_ = false;
   hauptfenster_.Entschaerfen();
+  if (!ablauf_.Beenden()) {
+    hauptfenster_.Scharfschalten();
+    return;
+  }
   plattform_.hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Beenden, 0);
   Q_EMIT beendet();
 }

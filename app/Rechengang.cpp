@@ -1,22 +1,14 @@
 #include "Rechengang.h"
 
-#include <QLocale>
 #include <QScopedValueRollback>
 #include <utility>
 
+#include "Dezimaltrenner.h"
 #include "Meldung.h"
 #include "Zustand.h"
 #include "frmVesk.h"
 
 namespace vesk {
-
-namespace {
-
-char Dezimaltrenner() {
-  return QLocale().decimalPoint().at(0).toLatin1();
-}
-
-}  // namespace
 
 Rechengang::Rechengang(Zustand& zustand, Plattform& plattform, frmVesk& hauptfenster, Nebenfelder nebenfelder)
     : zustand_(zustand),
@@ -33,12 +25,10 @@ void Rechengang::Berechnen(bool meldungen) {
   const Rechenergebnis ergebnis = vesk::Berechnen(werte, art);
   if (ergebnis.begonnen) {
     const Feldtexte texte = Ausgabetexte(ergebnis, Dezimaltrenner());
-    if (ergebnis.grenzwerte.ausserhalb && meldungen) {
-      Zeigen(plattform_.boxen, werte, BereichsHinweis());
-      hauptfenster_.QrgFokussieren();
+    FrequenzZeigen(texte, ergebnis.grenzwerte.ausserhalb && meldungen);
+    if (ergebnis.grenzwerte.hsmVDE.ausserhalb && meldungen && hauptfenster_.MeldungenAn()) {
+      Zeigen(plattform_.boxen, werte, HSMBereichsHinweis());
     }
-    hauptfenster_.KoepfeZeigen(texte);
-    Bereich(ergebnis.grenzwerte, meldungen);
     hauptfenster_.ErgebnisZeigen(ergebnis, texte, Faktor(werte));
     if (art.ausgeben) nebenfelder_(ergebnis, texte);
   }
@@ -46,10 +36,12 @@ void Rechengang::Berechnen(bool meldungen) {
   if (ergebnis.vollstaendig && meldungen) Hinweise(ergebnis);
 }
 
-void Rechengang::Bereich(const Grenzwerte& grenzwerte, bool meldungen) {
-  if (grenzwerte.hsmVDE.ausserhalb && meldungen && hauptfenster_.MeldungenAn()) {
-    Zeigen(plattform_.boxen, zustand_.werte, HSMBereichsHinweis());
+void Rechengang::FrequenzZeigen(const Feldtexte& texte, bool hinweis) {
+  if (hinweis) {
+    Zeigen(plattform_.boxen, zustand_.werte, BereichsHinweis());
+    hauptfenster_.QrgFokussieren();
   }
+  hauptfenster_.KoepfeZeigen(texte);
 }
 
 void Rechengang::Hinweise(const Rechenergebnis& ergebnis) {
@@ -71,13 +63,9 @@ void Rechengang::Bandlogik(float mhz, bool hinweis) {
   werte.QRGGrenzwert = frequenz.grenzwert;
   werte.QRGHSM = frequenz.hsm;
   werte.QRGLambda = frequenz.lambda;
-  if (hinweis && !ImRechenbereich(mhz)) {
-    Zeigen(plattform_.boxen, werte, BereichsHinweis());
-    hauptfenster_.QrgFokussieren();
-  }
   Feldtexte texte;
   Kopftexte(frequenz, Dezimaltrenner(), texte);
-  hauptfenster_.KoepfeZeigen(texte);
+  FrequenzZeigen(texte, hinweis && !ImRechenbereich(mhz));
 }
 
 }  // namespace vesk

@@ -28,7 +28,8 @@ class Rechengang {
   bool Laeuft() const { return laeuft_; }
 
  private:
-  void Bereich(const Grenzwerte& grenzwerte, bool meldungen);
+  /// Column heads; before them the note on the range and the cursor back in the frequency.
+  void FrequenzZeigen(const Feldtexte& texte, bool hinweis);
   void Hinweise(const Rechenergebnis& ergebnis);
 
   Zustand& zustand_;

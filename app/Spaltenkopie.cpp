@@ -1,7 +1,9 @@
 #include "Spaltenkopie.h"
 
 #include "Datenblatt.h"
+#include "Laufzeitfehler.h"
 #include "Spaltenumgebung.h"
+#include "UserDatei.h"
 #include "Zustand.h"
 
 namespace vesk {
@@ -15,6 +17,12 @@ bool InFreieSpalteKopieren(Zustand& zustand, Spaltenumgebung& umgebung) {
   };
   const Rechenwerte& werte = zustand.werte;
   const Ergebnistexte ergebnisse = umgebung.Ergebnisse();
+  // A cell would cut a longer number, which then would be another number.
+  for (const std::string* zahl :
+       {&werte.QRGText, &werte.PWRText, &werte.GewinnText, &werte.DaempfungText, &werte.WinkelDaempfungText,
+        &ergebnisse.ohneHSM, &ergebnisse.HSM306, &ergebnisse.HSMvde}) {
+    if (zahl->size() > MaxZellenlaenge) throw Laufzeitfehler(Fehlerart::Ueberlauf);
+  }
 
   setzen(ZeileFrequenz, werte.QRGText);
   setzen(ZeileGewinn, werte.GewinnText);

@@ -16,15 +16,6 @@ const std::string& Zelle(const Zustand& zustand, std::int16_t spalte, Zeile zeil
   return zustand.Zellen.at(static_cast<std::size_t>(Gitterindex(spalte, zeile)));
 }
 
-/// A number beyond the range of the record is above 0, too; the calculation tells what is wrong with it.
-bool Positiv(const std::string& text) {
-  try {
-    return Zahl(text) > 0;
-  } catch (const Laufzeitfehler&) {
-    return true;
-  }
-}
-
 }  // namespace
 
 Spaltenuebernahme::Spaltenuebernahme(Zustand& zustand, Spaltenumgebung& umgebung)

@@ -2,10 +2,14 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <algorithm>
+#include <array>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "Dezimaltrenner.h"
 #include "Hilfesystem.h"
 #include "Kommandozeile.h"
 #include "Programm.h"
@@ -19,13 +23,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Options of the program itself; what only Qt knows (-platform, -style) is left to it.
 struct Startoptionen {
   bool hilfe = false;
   bool version = false;
+  bool plattform = false;  ///< the toolkit was told where to show its windows
   QString verzeichnis;
   std::string fehler;
 };
+
+/// Options that the toolkit reads itself; each has a value.
+constexpr std::array<std::string_view, 5> Toolkitoptionen = {"-platform", "-display", "-style", "-geometry",
+                                                             "-name"};
 
 Startoptionen Lesen(const std::vector<std::string>& argumente) {
   Startoptionen optionen;
@@ -39,6 +47,9 @@ Startoptionen Lesen(const std::vector<std::string>& argumente) {
       optionen.verzeichnis = QString::fromStdString(argumente[++i]);
     } else if (argument.starts_with("--verzeichnis=")) {
       optionen.verzeichnis = QString::fromStdString(argument.substr(argument.find('=') + 1));
+    } else if (std::find(Toolkitoptionen.begin(), Toolkitoptionen.end(), argument) != Toolkitoptionen.end()) {
+      optionen.plattform = optionen.plattform || argument == "-platform" || argument == "-display";
+      ++i;
     } else if (argument == "--verzeichnis") {
       optionen.fehler = "Der Option --verzeichnis fehlt ihr Wert.";
     } else {
@@ -58,19 +69,13 @@ bool OhneBildschirm() {
          qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-int FensterOeffnen(int anzahl, char** argumente) {
+int FensterOeffnen(int anzahl, char** argumente, const Startoptionen& optionen) {
   const QApplication anwendung(anzahl, argumente);
   QApplication::setApplicationName(u"Vesk"_s);
   QApplication::setOrganizationName(u"Vesk"_s);
   QApplication::setApplicationVersion(QString::fromStdString(vesk::VersionLang()));
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(vesk::Programmbild(64, 1));
-  const QStringList rest = QApplication::arguments().mid(1);
-  std::vector<std::string> texte;
-  for (const QString& text : rest) texte.push_back(text.toStdString());
-  const Startoptionen optionen = Lesen(texte);
-  if (!optionen.fehler.empty()) return Fehlaufruf(optionen.fehler);
-
   // The toolkit's own dialogs and menus speak German, too.
   QTranslator uebersetzung;
   if (uebersetzung.load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -101,7 +106,7 @@ int FensterOeffnen(int anzahl, char** argumente) {
 int main(int anzahl, char** argumente) {
   const std::vector<std::string> texte(argumente + 1, argumente + anzahl);
   if (!texte.empty() && texte.front() == "rechnen") {
-    const char trenner = QLocale::system().decimalPoint().at(0).toLatin1();
+    const char trenner = vesk::Dezimaltrenner(QLocale::system());
     return vesk::Rechnen(std::span(texte).subspan(1), trenner, std::cout, std::cerr);
   }
   const Startoptionen optionen = Lesen(texte);
@@ -113,10 +118,10 @@ int main(int anzahl, char** argumente) {
     std::cout << vesk::Produktname << ' ' << vesk::VersionLang() << '\n';
     return 0;
   }
-  const bool plattformGewaehlt = std::find(texte.begin(), texte.end(), "-platform") != texte.end();
-  if (OhneBildschirm() && !plattformGewaehlt) {
+  if (!optionen.fehler.empty()) return Fehlaufruf(optionen.fehler);
+  if (OhneBildschirm() && !optionen.plattform) {
     std::cerr << "vesk: Es ist kein Bildschirm da. Im Terminal rechnet: vesk rechnen --help\n";
     return 1;
   }
-  return FensterOeffnen(anzahl, argumente);
+  return FensterOeffnen(anzahl, argumente, optionen);
 }

@@ -42,6 +42,24 @@ std::size_t LaengeDerZahl(std::string_view text) {
   return i;
 }
 
+/// Whether a number that no double can hold is too large rather than too small: the decimal position of its
+/// first digit that is not 0, plus the exponent. from_chars itself does not tell.
+bool UeberEins(std::string_view zahl) {
+  const std::size_t e = std::min(zahl.find_first_of("eE"), zahl.size());
+  const std::string_view mantisse = zahl.substr(0, e);
+  const std::size_t erste = mantisse.find_first_of("123456789");
+  if (erste == std::string_view::npos) return false;
+  const std::size_t punkt = std::min(mantisse.find('.'), mantisse.size());
+  std::string_view exponent = zahl.substr(std::min(e + 1, zahl.size()));
+  const bool negativ = exponent.starts_with('-');
+  if (negativ || exponent.starts_with('+')) exponent.remove_prefix(1);
+  long wert = 0;
+  const auto fehler = std::from_chars(exponent.data(), exponent.data() + exponent.size(), wert).ec;
+  if (fehler == std::errc::result_out_of_range) return !negativ;
+  const long stelle = static_cast<long>(punkt) - static_cast<long>(erste);
+  return stelle + (negativ ? -wert : wert) > 0;
+}
+
 /// Rounds the decimal text `dezimal` ("123.456", no sign) to `stellen` places, halves away from zero.
 std::string Runden(std::string_view dezimal, int stellen, char trenner) {
   const std::size_t punkt = std::min(dezimal.find('.'), dezimal.size());
@@ -89,13 +107,18 @@ float Zahl(std::string_view text) {
 
   double wert = 0;
   const auto [ende, fehler] = std::from_chars(zahl.data(), zahl.data() + zahl.size(), wert);
-  if (fehler == std::errc::result_out_of_range) {
-    // from_chars leaves the value alone both beyond the largest and below the smallest double.
-    wert = std::strtod(std::string(zahl).c_str(), nullptr);
-  }
+  if (fehler == std::errc::result_out_of_range && UeberEins(zahl)) throw Laufzeitfehler(Fehlerart::Ueberlauf);
   const auto single = static_cast<float>(wert);
   if (!std::isfinite(single)) throw Laufzeitfehler(Fehlerart::Ueberlauf);
   return negativ ? -single : single;
+}
+
+bool Positiv(std::string_view text) {
+  try {
+    return Zahl(text) > 0;
+  } catch (const Laufzeitfehler&) {
+    return text.find('-') == std::string_view::npos;
+  }
 }
 
 std::string Formatieren(float wert) {

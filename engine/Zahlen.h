@@ -10,6 +10,10 @@ namespace vesk {
 /// Throws Laufzeitfehler(Ueberlauf) when the number is beyond the range of single.
 float Zahl(std::string_view text);
 
+/// Whether the number of a text is greater than 0; one beyond the range of single counts, too, so that the
+/// calculation tells what is wrong with it.
+bool Positiv(std::string_view text);
+
 /// "#0.00" with a point whatever the locale. The shortest decimal that reads back as the same single is
 /// rounded to two places, halves away from zero; never "-0.00".
 std::string Formatieren(float wert);

@@ -12,6 +12,7 @@
 
 #include "Farben.h"
 #include "Finden.h"
+#include "Kabeldatei.h"
 #include "Programm.h"
 #include "Skript.h"
 
@@ -27,6 +28,7 @@ constexpr auto HSMtitel = "DIN VDE 0848 Teil 3-1"_L1;
 class Hauptfenster : public testing::Test {
  protected:
   void SetUp() override {
+    KabeldateiAnlegen(verzeichnis.path());
     buehne.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
     programm.Starten();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));

@@ -13,6 +13,7 @@
 #include "Feldhilfe.h"
 #include "Finden.h"
 #include "Hilfetaste.h"
+#include "Kabeldatei.h"
 #include "Programm.h"
 #include "Skript.h"
 
@@ -33,10 +34,7 @@ const QWidget* FensterVon(const QObject& objekt) {
 class GanzesProgramm : public testing::Test {
  protected:
   void SetUp() override {
-    QFile kabel(verzeichnis.filePath(u"Kabel.txt"_s));
-    ASSERT_TRUE(kabel.open(QIODevice::WriteOnly));
-    kabel.write("RG213,0.56,0.8,1.28,1.86,2.66,4.23,6.12,9.18,16.17,25.9,42.3,79.7\r\n");
-    kabel.close();
+    KabeldateiAnlegen(verzeichnis.path());
     buehne.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
     buehne.boxen.alleErlaubt = true;
     buehne.dialoge.alleErlaubt = true;

@@ -13,6 +13,7 @@
 
 #include "Farben.h"
 #include "Finden.h"
+#include "Kabeldatei.h"
 #include "Programm.h"
 #include "Skript.h"
 

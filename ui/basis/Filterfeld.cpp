@@ -13,7 +13,17 @@
 
 namespace vesk {
 
+bool Filterfeld::FreieZugriffstaste(const QKeyEvent& ereignis) {
+  const bool mitAlt = (ereignis.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0;
+  const bool mitStrg = (ereignis.modifiers() & Qt::ControlModifier) != 0;  // AltGr on some keyboards
+  return mitAlt && !mitStrg && ereignis.text().size() == 1 && ereignis.text().at(0).isPrint();
+}
+
 void Filterfeld::keyPressEvent(QKeyEvent* ereignis) {
+  if (FreieZugriffstaste(*ereignis)) {
+    ereignis->ignore();
+    return;
+  }
   if (ereignis->matches(QKeySequence::Paste)) {
     Einfuegen(QGuiApplication::clipboard()->text());
     return;

@@ -13,6 +13,8 @@ class Filterfeld : public QLineEdit {
  protected:
   /// What the field takes of a text that the user enters; beeps when something was refused.
   virtual QString Filtern(const QString& text) = 0;
+  /// A letter with Alt or Meta: an access key that nobody has taken, which must not become a letter here.
+  static bool FreieZugriffstaste(const QKeyEvent& ereignis);
   /// Enters a text at the cursor as far as the filter lets it pass.
   void Einfuegen(const QString& text);
 

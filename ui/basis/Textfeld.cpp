@@ -24,7 +24,7 @@ Textfeld::Textfeld(Signalton& ton, QWidget* eltern) : Filterfeld(eltern), ton_(t
 
 void Textfeld::keyPressEvent(QKeyEvent* ereignis) {
   const QString text = ereignis->text();
-  if (text.isEmpty() || IstSteuerzeichen(text.at(0)) || isReadOnly()) {
+  if (text.isEmpty() || FreieZugriffstaste(*ereignis) || IstSteuerzeichen(text.at(0)) || isReadOnly()) {
     Filterfeld::keyPressEvent(ereignis);
     return;
   }

@@ -4,6 +4,8 @@
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMouseEvent>
 
 #include "Plattform.h"
@@ -12,25 +14,11 @@
 
 namespace vesk {
 
-namespace {
-
-/// Whether the focus only rests elsewhere and will come back by itself.
-bool NurUnterbrochen(const QFocusEvent& ereignis) {
-  switch (ereignis.reason()) {
-    case Qt::PopupFocusReason:
-    case Qt::MenuBarFocusReason:
-      return true;
-    case Qt::ActiveWindowFocusReason:
-      return QApplication::activeWindow() == nullptr || QApplication::activeModalWidget() != nullptr;
-    default:
-      return false;
-  }
-}
-
-}  // namespace
-
 Zahlenfeld::Zahlenfeld(Rechenwerte& werte, Signalton& ton, QWidget* eltern)
-    : Filterfeld(eltern), werte_(werte), ton_(ton) {}
+    : Filterfeld(eltern), werte_(werte), ton_(ton) {
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* jetzt) { FokusGewechselt(jetzt); });
+}
 
 void Zahlenfeld::keyPressEvent(QKeyEvent* ereignis) {
   const QString text = ereignis->text();
@@ -77,9 +65,12 @@ void Zahlenfeld::focusInEvent(QFocusEvent* ereignis) {
   Q_EMIT betreten();
 }
 
-void Zahlenfeld::focusOutEvent(QFocusEvent* ereignis) {
-  Filterfeld::focusOutEvent(ereignis);
-  if (!betreten_ || NurUnterbrochen(*ereignis)) return;
+void Zahlenfeld::FokusGewechselt(const QWidget* jetzt) {
+  if (!betreten_ || jetzt == nullptr || jetzt == this) return;
+  // Menus, boxes and dialogs take the focus only for a while.
+  if (qobject_cast<const QMenuBar*>(jetzt) != nullptr || qobject_cast<const QMenu*>(jetzt) != nullptr) return;
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (modal != nullptr && modal != window()) return;
   betreten_ = false;
   Q_EMIT verlassen();
 }

@@ -32,10 +32,11 @@ class Zahlenfeld : public Filterfeld {
   void mousePressEvent(QMouseEvent* ereignis) override;
   void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
   void focusInEvent(QFocusEvent* ereignis) override;
-  void focusOutEvent(QFocusEvent* ereignis) override;
   QString Filtern(const QString& text) override;
 
  private:
+  void FokusGewechselt(const QWidget* jetzt);
+
   bool betreten_ = false;
   Rechenwerte& werte_;
   Signalton& ton_;

@@ -192,6 +192,7 @@ void frmDatenblatt::Fuellen(std::bitset<AnzahlSpalten> gelesen) {
   fuellt_ = true;
   for (std::size_t index = 0; index < txtA.size(); ++index) {
     txtA[index]->Schriftfarbe(Qt::black);
+    if (index % AnzahlZeilen < ZeileOhneHSM - 1) txtA[index]->Grundfarbe(farben::Weiss);
     txtA[index]->Zeigen(Text(zustand_.Zellen[index]));
     zustand_.Zellen[index] = txtA[index]->text().toStdString();  // a longer one has been cut
   }
@@ -226,7 +227,10 @@ void frmDatenblatt::ZelleGeaendert(std::size_t index) {
   std::string text = txtA[index]->text().toStdString();
   if (text == zustand_.Zellen[index]) return;
   zustand_.Zellen[index] = std::move(text);
-  if (!fuellt_) zustand_.UserGeaendert = true;
+  if (fuellt_) return;
+  zustand_.UserGeaendert = true;
+  const auto zeile = index % AnzahlZeilen + 1;
+  if (zeile == ZeileFrequenz || zeile == ZeileLeistung) Q_EMIT belegungGeaendert();
 }
 
 void frmDatenblatt::ZeileWechseln(std::size_t index, int schritt) {

@@ -31,14 +31,6 @@ float ZahlOderGrenze(const std::string& text) {
   }
 }
 
-bool Positiv(const QString& text) {
-  try {
-    return Zahl(text.toStdString()) > 0;
-  } catch (const Laufzeitfehler&) {
-    return true;  // the calculation tells what is wrong with it
-  }
-}
-
 }  // namespace
 
 Modus frmVesk::modus() const {
@@ -84,8 +76,8 @@ void frmVesk::EreignisseVerbinden() {
       if (feld == txtQRG) Q_EMIT qrgVerlassen();
     });
     // What is shown no longer belongs to what is typed; it must not be copied before it is calculated anew.
-    connect(eingabe.feld, &QLineEdit::textEdited, cmdCopy, [this] { cmdCopy->setEnabled(false); });
-    connect(eingabe.feld, &Zahlenfeld::gedrueckt, cmdCopy, [this] { cmdCopy->setEnabled(false); });
+    connect(eingabe.feld, &QLineEdit::textEdited, this, [this] { KopierenErlauben(false); });
+    connect(eingabe.feld, &Zahlenfeld::gedrueckt, this, [this] { KopierenErlauben(false); });
   }
   connect(txtPWR, &Zahlenfeld::gedrueckt, this, [this, &werte] {
     werte.PWRText.clear();
@@ -97,6 +89,9 @@ void frmVesk::EreignisseVerbinden() {
   });
   const auto minusErlauben = [&werte] { werte.MinusErlaubt = true; };
   connect(txtGewinn, &Zahlenfeld::betreten, this, minusErlauben);
+  connect(txtGewinn, &QLineEdit::textEdited, this, [minusErlauben](const QString& text) {
+    if (text.isEmpty()) minusErlauben();
+  });
   connect(txtGewinn, &Zahlenfeld::gedrueckt, this, [this, minusErlauben] {
     lblGewinn->setProperty("Tag", u"dBi"_s);
     minusErlauben();
@@ -104,6 +99,7 @@ void frmVesk::EreignisseVerbinden() {
   connect(lblModus, &Klicklabel::geklickt, this, &frmVesk::modusGeklickt);
   connect(lblQRG, &Klicklabel::geklickt, this, &frmVesk::qrgGeklickt);
   connect(cmdBerechnen, &QPushButton::clicked, this, &frmVesk::berechnenVerlangt);
+  connect(cmdBerechnen, &QPushButton::released, this, &frmVesk::berechnenLosgelassen);
   connect(cmdCopy, &QPushButton::clicked, this, &frmVesk::kopierenVerlangt);
   for (QWidget* widget : {static_cast<QWidget*>(cmdBerechnen), static_cast<QWidget*>(cmdCopy),
                           static_cast<QWidget*>(txtStrahlung)}) {
@@ -134,6 +130,8 @@ void frmVesk::Uebernehmen() {
   for (const Eingabe& eingabe : eingaben_) {
     if (eingabe.feld->hasFocus()) Verlassen(eingabe.feld);
   }
+  // The cursor stays where it is; a gain may still be negative.
+  zustand_.werte.MinusErlaubt = txtGewinn->hasFocus();
   TexteUebernehmen();
 }
 
@@ -152,7 +150,7 @@ void frmVesk::QrgFokussieren() {
 bool frmVesk::EingabenGueltig() {
   bool gueltig = true;
   for (QLineEdit* feld : {txtQRG, txtPWR}) {
-    const bool gut = Positiv(feld->text());
+    const bool gut = Positiv(feld->text().toStdString());
     Hintergrund(*feld, gut ? farben::Weiss : farben::Rot);
     gueltig = gueltig && gut;
   }
@@ -196,6 +194,7 @@ void frmVesk::AbstandEinschalten() {
 void frmVesk::EingabenZeigen() {
   for (const Eingabe& eingabe : eingaben_) {
     eingabe.feld->setText(QString::fromStdString(zustand_.werte.*eingabe.text));
+    eingabe.feld->setCursorPosition(0);
   }
 }
 
@@ -278,6 +277,8 @@ bool frmVesk::TasteImFeld(QWidget* feld, int taste) {
 bool frmVesk::eventFilter(QObject* objekt, QEvent* ereignis) {
   if (ereignis->type() == QEvent::KeyPress) {
     const auto* taste = static_cast<QKeyEvent*>(ereignis);
+    const bool enter = taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter;
+    if (enter && taste->isAutoRepeat()) return true;
     const auto umschalter = taste->modifiers() & ~Qt::KeypadModifier;
     if (umschalter == Qt::NoModifier && TasteImFeld(qobject_cast<QWidget*>(objekt), taste->key()))
       return true;

@@ -72,6 +72,8 @@ class frmVesk : public QMainWindow {
 
  Q_SIGNALS:
   void berechnenVerlangt();
+  /// The mouse has let the calculate button go, on it or beside it; before berechnenVerlangt.
+  void berechnenLosgelassen();
   void kopierenVerlangt();
   void modusGeklickt();
   void qrgGeklickt();

@@ -20,8 +20,11 @@ void Schreiben(QLabel& label, const std::optional<std::string>& text) {
   if (text) label.setText(QString::fromStdString(*text));
 }
 
+/// A number longer than its field shows its head, not its tail.
 void Schreiben(QLineEdit& feld, const std::optional<std::string>& text) {
-  if (text) feld.setText(QString::fromStdString(*text));
+  if (!text) return;
+  feld.setText(QString::fromStdString(*text));
+  feld.setCursorPosition(0);
 }
 
 }  // namespace
@@ -38,6 +41,7 @@ void frmVesk::WertAusgabeNull() {
     feld->clear();
   }
   KoepfeZuruecksetzen();
+  KopierenErlauben(false);
   Hintergrund(*txtNahfeld, farben::HellGrau);
   Hintergrund(*txtAusgabeHSM306, farben::HellRot);
   Hintergrund(*txtAusgabeHSMvde, farben::HellGelb);
