@@ -42,7 +42,7 @@ Messung Starten(const std::string& programm, const std::string& verzeichnis) {
     std::fprintf(stderr, "%s ist nicht bis zum gemalten Fenster gekommen.\n", programm.c_str());
     std::exit(1);
   }
-  return {static_cast<double>(std::atoll(text.data()) - beginn) / 1e6,
+  return {static_cast<double>(std::strtoll(text.data(), nullptr, 10) - beginn) / 1e6,
           static_cast<double>(verbrauch.ru_maxrss) / 1024};
 }
 

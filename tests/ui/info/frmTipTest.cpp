@@ -21,7 +21,7 @@ const QPair<QString, QString> BeimStart = {u"Options"_s, u"Show Tips at Startup"
 class FrmTip : public testing::Test {
  protected:
   QString Datei(const QByteArray& inhalt) {
-    const QString pfad = verzeichnis.filePath(u"TIPOFDAY.TXT"_s);
+    QString pfad = verzeichnis.filePath(u"TIPOFDAY.TXT"_s);
     QFile datei(pfad);
     EXPECT_TRUE(datei.open(QIODevice::WriteOnly));
     datei.write(inhalt);
