@@ -146,9 +146,11 @@ bool Dateiablauf::InsProgrammverzeichnis(const fs::path& gewaehlt) {
 
   const fs::path ziel = fs::path(zustand_.ProgrammVerzeichnis) / gewaehlt.filename();
   const Gelesen dort = DateiLesen(ziel);
-  const bool andere = dort.status != Lesestatus::Fehlt && dort.bytes != DateiLesen(gewaehlt).bytes;
+  const bool dieselbe =
+      dort.status == Lesestatus::Gelesen && !dort.abgeschnitten && dort.bytes == DateiLesen(gewaehlt).bytes;
+  if (dieselbe) return true;
   Fehlergrund grund;
-  if (andere) grund = DateiKopieren(ziel, FreierAltname(ziel));
+  if (dort.status != Lesestatus::Fehlt) grund = DateiKopieren(ziel, FreierAltname(ziel));
   if (!grund) grund = DateiKopieren(gewaehlt, ziel);
   if (!grund) return true;
   return Fehler("Die Datei " + gewaehlt.filename().string() + " konnte nicht kopiert werden.", *grund);

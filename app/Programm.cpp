@@ -157,7 +157,7 @@ void Programm::BenutzerfensterVerbinden() {
   };
   an(&frmUser::UserNeu, [this] { ablauf_.UserNeu(); });
   an(&frmUser::UserLaden, [this] { ablauf_.Laden(); });
-  an(&frmUser::UserSpeichern, [this] { ablauf_.Speichern(); });
+  an(&frmUser::UserSpeichern, [this] { ablauf_.UserSpeichern(); });
   an(&frmUser::UserSpeichernUnter, [this] { ablauf_.UserSpeichernUnter(); });
   an(&frmUser::NoChange, [this] { ablauf_.AenderungenVerwerfen(); });
   an(&frmUser::verborgen, [this] { ablauf_.BenutzerfensterVerborgen(); });

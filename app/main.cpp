@@ -4,6 +4,7 @@
 #include <QTranslator>
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <iostream>
 #include <string>
 #include <string_view>
@@ -70,6 +71,8 @@ bool OhneBildschirm() {
 }
 
 int FensterOeffnen(int anzahl, char** argumente, const Startoptionen& optionen) {
+  // A limit on the size of files must let a save fail, not end the program with the data in it.
+  std::signal(SIGXFSZ, SIG_IGN);
   const QApplication anwendung(anzahl, argumente);
   QApplication::setApplicationName(u"Vesk"_s);
   QApplication::setOrganizationName(u"Vesk"_s);
