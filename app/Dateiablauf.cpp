@@ -272,9 +272,10 @@ void Dateiablauf::BenutzerfensterVerborgen() {
 
 bool Dateiablauf::Beenden() {
   if (beendet_) return true;
-  if (!UserSpeichern() && !NichtsZuVerlieren() && !Frage(Programmtitel, u"Programm trotzdem beenden?"_s)) {
-    return false;
-  }
+  const bool gerettet = UserSpeichern() || NichtsZuVerlieren();
+  const QString grund =
+      neuesRufzeichen_ ? u"Die Daten des neuen Rufzeichens sind noch nicht gesichert.\n"_s : QString();
+  if (!gerettet && !Frage(Programmtitel, grund + u"Programm trotzdem beenden?"_s)) return false;
   beendet_ = true;
   return true;
 }
