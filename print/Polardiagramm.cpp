@@ -17,10 +17,11 @@ namespace {
 constexpr int Sektorgrad = 10;
 constexpr QColor Gitterfarbe(0xB0, 0xB0, 0xB0);
 
-/// Rings of the scale: every `schritt` units up to `rand`.
+/// Rings of the scale, `anzahl` of them `schritt` units apart.
 struct Ringe {
   double schritt = 1;
-  double rand = 1;
+  int anzahl = 1;
+  double Rand() const { return schritt * anzahl; }
 };
 
 /// Steps of 1, 2 or 5 times a power of ten, so that four to ten of them reach `hoechster`.
@@ -29,7 +30,7 @@ Ringe RingeBis(double hoechster) {
   const double zehner = std::pow(10.0, std::floor(std::log10(hoechster / 4)));
   const double anteil = hoechster / 4 / zehner;
   const double schritt = zehner * (anteil >= 5 ? 5 : anteil >= 2 ? 2 : 1);
-  return {schritt, schritt * std::ceil(hoechster / schritt)};
+  return {schritt, static_cast<int>(std::ceil(hoechster / schritt))};
 }
 
 class Zeichnung {
@@ -80,14 +81,14 @@ void Zeichnung::SkalaBestimmen() {
   }
   // The centre lies one ring below the weakest sector, so that it is seen to radiate.
   constexpr double Schritt = 10;
-  constexpr double Mindestens = 30;
-  constexpr double Hoechstens = 100;
-  const double bis = Schritt * (std::floor(hoechster / Schritt) + 1);
-  ringe_ = {Schritt, std::clamp(bis, Mindestens, Hoechstens)};
+  constexpr double Mindestens = 3;
+  constexpr double Hoechstens = 10;
+  ringe_ = {Schritt,
+            static_cast<int>(std::clamp(std::floor(hoechster / Schritt) + 1, Mindestens, Hoechstens))};
 }
 
 double Zeichnung::Radius(double wert) const {
-  const double anteil = std::clamp(wert / ringe_.rand, 0.0, 1.0);
+  const double anteil = std::clamp(wert / ringe_.Rand(), 0.0, 1.0);
   return radius_ * (daten_.skala == Polarskala::Daempfung ? 1 - anteil : anteil);
 }
 
@@ -117,8 +118,8 @@ void Zeichnung::Gitter() {
   constexpr int Viertelgrad = 16 * 90;
   maler_.setBrush(Qt::NoBrush);
   maler_.setPen(QPen(Gitterfarbe, 0));
-  for (double wert = 0; wert <= ringe_.rand * 1.001; wert += ringe_.schritt) {
-    const double r = Radius(wert);
+  for (int i = 0; i <= ringe_.anzahl; ++i) {
+    const double r = Radius(i * ringe_.schritt);
     maler_.drawArc(QRectF(mitte_ - QPointF(r, r), mitte_ + QPointF(r, r)), 0, 2 * Viertelgrad);
   }
   for (int grad = -90; grad <= 90; grad += Sektorgrad) maler_.drawLine(mitte_, Punkt(grad, radius_));
@@ -136,12 +137,11 @@ void Zeichnung::Gradzahlen() {
 
 void Zeichnung::Ringzahlen() {
   const QFontMetricsF mass(maler_.font());
-  std::vector<double> werte;
-  for (double wert = 0; wert <= ringe_.rand * 1.001; wert += ringe_.schritt) werte.push_back(wert);
   // From the rim inwards; a number that would touch the one before is left out.
-  if (daten_.skala == Polarskala::Abstand) std::reverse(werte.begin(), werte.end());
   double frei = 2 * radius_;
-  for (const double wert : werte) {
+  for (int i = 0; i <= ringe_.anzahl; ++i) {
+    const int ring = daten_.skala == Polarskala::Abstand ? ringe_.anzahl - i : i;
+    const double wert = ring * ringe_.schritt;
     const QString text = QString::number(wert, 'g', 4);
     const double breite = mass.horizontalAdvance(text) + 0.4 * zeile_;
     const double x = Radius(wert);
