@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "Feldhilfe.h"
@@ -53,7 +54,11 @@ frmTip::frmTip(Benutzerspeicher& speicher, const QString& datei, QWidget* eltern
   connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
   naechster_ = speicher_.Lesen(u"Options"_s, u"Next Tip"_s).value_or(QString()).toUInt();
-  NaechsterTip();
+}
+
+void frmTip::showEvent(QShowEvent* ereignis) {
+  if (!ereignis->spontaneous()) NaechsterTip();
+  QDialog::showEvent(ereignis);
 }
 
 void frmTip::Aufbauen() {

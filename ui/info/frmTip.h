@@ -12,12 +12,15 @@ namespace vesk {
 
 class Benutzerspeicher;
 
-/// Tip of the day. Every start goes on with the tip after the one shown last.
+/// Tip of the day. Whenever it is opened it goes on with the tip after the one shown last, across runs.
 class frmTip : public QDialog {
   Q_OBJECT
  public:
   /// `datei`: path of "TIPOFDAY.TXT".
   frmTip(Benutzerspeicher& speicher, const QString& datei, QWidget* eltern = nullptr);
+
+ protected:
+  void showEvent(QShowEvent* ereignis) override;
 
  private:
   void Aufbauen();

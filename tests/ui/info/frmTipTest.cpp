@@ -27,7 +27,8 @@ class FrmTip : public testing::Test {
     datei.write(inhalt);
     return pfad;
   }
-  static QString Tip(const frmTip& fenster) {
+  static QString Tip(frmTip& fenster) {
+    fenster.show();
     return Finden<QPlainTextEdit>(fenster, u"txtTip"_s).toPlainText();
   }
 
@@ -50,9 +51,12 @@ TEST_F(FrmTip, NaechsterTipGehtReihum) {
     EXPECT_EQ(Tip(fenster), u"eins");
     QTest::keyClick(&fenster, Qt::Key_Return);  // OK
     EXPECT_FALSE(fenster.isVisible());
+    EXPECT_EQ(Tip(fenster), u"<b>zwölf</b>");  // opened again
   }
-  EXPECT_EQ(Tip(frmTip(speicher, pfad)), u"<b>zwölf</b>");  // the next start goes on
-  EXPECT_EQ(Tip(frmTip(speicher, Datei("nur einer\n"))), u"nur einer");
+  frmTip neuerStart(speicher, pfad);
+  EXPECT_EQ(Tip(neuerStart), u"drei");
+  frmTip nurEiner(speicher, Datei("nur einer\n"));
+  EXPECT_EQ(Tip(nurEiner), u"nur einer");
 }
 
 TEST_F(FrmTip, KaestchenStehtImSpeicher) {
@@ -74,7 +78,7 @@ TEST_F(FrmTip, KaestchenStehtImSpeicher) {
 
 TEST_F(FrmTip, OhneTips) {
   for (const QString& pfad : {verzeichnis.filePath(u"fehlt"_s), verzeichnis.path(), Datei("\r\n \r\n")}) {
-    const frmTip fenster(speicher, pfad);
+    frmTip fenster(speicher, pfad);
     EXPECT_EQ(Tip(fenster), u"Keine Tips gefunden.");
     EXPECT_FALSE(Finden<QPushButton>(fenster, u"cmdNaechsterTip"_s).isEnabled());
   }
@@ -84,7 +88,7 @@ TEST_F(FrmTip, UnsinnImSpeicher) {
   for (const QString& wert : {u"-1"_s, u"99999999999999999999"_s, u"abc"_s, u"7"_s}) {
     speicher.werte[{u"Options"_s, u"Next Tip"_s}] = wert;
     speicher.werte[BeimStart] = wert;
-    const frmTip fenster(speicher, Datei("eins\nzwei\n"));
+    frmTip fenster(speicher, Datei("eins\nzwei\n"));
     EXPECT_FALSE(Tip(fenster).isEmpty());
     EXPECT_FALSE(Finden<QCheckBox>(fenster, u"chkTipsBeimStart"_s).isChecked());
   }
