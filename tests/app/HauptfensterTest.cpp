@@ -241,6 +241,48 @@ TEST_F(Hauptfenster, VerlassenDerFrequenzRechnetEinmal) {
   Klick("cmdBerechnen");
 }
 
+TEST_F(Hauptfenster, GedruecktesGleichEntscheidetUeberDieRechnung) {
+  Menue("mnuMeldungen");
+  Eingeben({u"14.2"_s, u"100"_s, u"0"_s, u"0"_s, u"0"_s});
+  Feld("txtQRG").setFocus();
+  Feld("txtQRG").selectAll();
+  Tippen(u"7"_s);
+  auto& gleich = Finden<QPushButton>(fenster, u"cmdBerechnen"_s);
+  QTest::mousePress(&gleich, Qt::LeftButton);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Text("txtGrenzwert"), u"");
+  QTest::mouseRelease(&gleich, Qt::LeftButton, {}, QPoint(-20, -20));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Text("txtGrenzwert"), u"32.65");
+}
+
+TEST_F(Hauptfenster, WasKeineZahlIstBleibtDraussen) {
+  Feld("txtQRG").setFocus();
+  QTest::keyClick(&Feld("txtQRG"), Qt::Key_X, Qt::AltModifier);
+  EXPECT_EQ(Text("txtQRG"), u"");
+
+  // A text that no number can hold is told once, when the focus has settled, and stays to be corrected.
+  QApplication::clipboard()->setText(QString(400, u'9'));
+  QTest::keyClick(&Feld("txtQRG"), Qt::Key_V, Qt::ControlModifier);
+  buehne.boxen.Erwarten(u"Vesk - Fehlermeldung"_s, u"Überlauf"_s);
+  Taste(Qt::Key_Tab);
+  EXPECT_TRUE(buehne.boxen.gezeigt.empty());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Text("txtQRG").size(), 400);
+}
+
+TEST_F(Hauptfenster, MinusBleibtErlaubtSolangeDerCursorImGewinnSteht) {
+  Feld("txtGewinn").setFocus();
+  Tippen(u"5"_s);
+  Taste(Qt::Key_Backspace);
+  Tippen(u"-3"_s);
+  EXPECT_EQ(Text("txtGewinn"), u"-3");
+  Klick("lblModus");
+  Feld("txtGewinn").selectAll();
+  Tippen(u"-4"_s);
+  EXPECT_EQ(Text("txtGewinn"), u"-4");
+}
+
 TEST_F(Hauptfenster, LaufzeitfehlerZeigtWasGerechnetIst) {
   Menue("mnuAFu");
   Tippen(u"0.002"_s);

@@ -11,6 +11,7 @@
 #include "Finden.h"
 #include "Hilfebuch.h"
 #include "Hilfesystem.h"
+#include "Kabeldatei.h"
 #include "Programm.h"
 #include "Skript.h"
 #include "frmHilfe.h"
@@ -24,6 +25,7 @@ namespace {
 class HilfeImProgramm : public testing::Test {
  protected:
   HilfeImProgramm() { buehne.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s); }
+  void SetUp() override { KabeldateiAnlegen(verzeichnis.path()); }
   QString Seite() const {
     return Finden<QTextBrowser>(*hilfe.Fenster(), u"anzSeite"_s).source().path().mid(1);
   }

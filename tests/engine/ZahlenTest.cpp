@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <cmath>
 
 #include "Laufzeitfehler.h"
@@ -68,6 +69,20 @@ TEST(Zahlen, Zahl) {
        {std::string("3.5e38"), std::string("1e400"), std::string(400, '9'), "-" + std::string(400, '9')}) {
     EXPECT_THROW(Zahl(text), Laufzeitfehler) << text;
   }
+}
+
+/// A desktop program takes over the user's locale; its comma must not reach the numbers of the record.
+TEST(Zahlen, GebietsschemaIstGleichgueltig) {
+  const std::string vorher = std::setlocale(LC_ALL, nullptr);
+  std::setlocale(LC_ALL, "de_DE.UTF-8");  // where it is installed
+  EXPECT_THROW(Zahl("1.5e400"), Laufzeitfehler);
+  EXPECT_THROW(Zahl("0.00001e400"), Laufzeitfehler);
+  EXPECT_EQ(Zahl("2.5e-400"), 0);
+  EXPECT_EQ(Zahl("0.0" + std::string(400, '0') + "1"), 0);
+  EXPECT_EQ(Zahl("0e99999999999999999999"), 0);
+  EXPECT_EQ(Zahl("1e-99999999999999999999"), 0);
+  EXPECT_EQ(Formatieren(1234.567F), "1234.57");
+  std::setlocale(LC_ALL, vorher.c_str());
 }
 
 TEST(Zahlen, Gitterindex) {

@@ -99,7 +99,6 @@ void frmVesk::EreignisseVerbinden() {
   connect(lblModus, &Klicklabel::geklickt, this, &frmVesk::modusGeklickt);
   connect(lblQRG, &Klicklabel::geklickt, this, &frmVesk::qrgGeklickt);
   connect(cmdBerechnen, &QPushButton::clicked, this, &frmVesk::berechnenVerlangt);
-  connect(cmdBerechnen, &QPushButton::released, this, &frmVesk::berechnenLosgelassen);
   connect(cmdCopy, &QPushButton::clicked, this, &frmVesk::kopierenVerlangt);
   for (QWidget* widget : {static_cast<QWidget*>(cmdBerechnen), static_cast<QWidget*>(cmdCopy),
                           static_cast<QWidget*>(txtStrahlung)}) {
@@ -275,6 +274,7 @@ bool frmVesk::TasteImFeld(QWidget* feld, int taste) {
 }
 
 bool frmVesk::eventFilter(QObject* objekt, QEvent* ereignis) {
+  if (objekt == cmdBerechnen && ereignis->type() == QEvent::MouseButtonRelease) Q_EMIT berechnenLosgelassen();
   if (ereignis->type() == QEvent::KeyPress) {
     const auto* taste = static_cast<QKeyEvent*>(ereignis);
     const bool enter = taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter;
