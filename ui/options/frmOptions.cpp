@@ -54,10 +54,13 @@ void frmOptions::MenueBauen() {
   mnuDatei = menuBar()->addMenu(u"&Datei"_s);
   mnuDatei->menuAction()->setObjectName(u"mnuDatei"_s);
   mnuDatei->setToolTipsVisible(true);
-  Winkeleintrag(u"mnuWinkelLaden"_s, u"Daten &laden"_s, &WinkelTab::WinkelOeffnen);
-  Winkeleintrag(u"mnuWinkelSpeichern"_s, u"Daten &Speichern"_s, &WinkelTab::WinkelSpeichern);
-  Winkeleintrag(u"mnuWinkelUnter"_s, u"Daten speichern &Unter"_s, &WinkelTab::WinkelSpeichernUnter);
-  Winkeleintrag(u"mnuWDelete"_s, u"Daten &Löschen"_s, &WinkelTab::TabelleLoeschen);
+  const auto winkeleintrag = [this](const QString& name, const QString& text, auto tun) {
+    connect(Eintrag(name, text), &QAction::triggered, winkel_, tun);
+  };
+  winkeleintrag(u"mnuWinkelLaden"_s, u"Daten &laden"_s, &WinkelTab::WinkelOeffnen);
+  winkeleintrag(u"mnuWinkelSpeichern"_s, u"Daten &Speichern"_s, &WinkelTab::WinkelSpeichern);
+  winkeleintrag(u"mnuWinkelUnter"_s, u"Daten speichern &Unter"_s, &WinkelTab::WinkelSpeichernUnter);
+  winkeleintrag(u"mnuWDelete"_s, u"Daten &Löschen"_s, &WinkelTab::TabelleLoeschen);
   Gesperrt(u"mnuWNoChange"_s, u"Änderungen &Rückgängig machen"_s,
            u"Die gespeicherte Tabelle kommt mit \"Daten laden\" zurück."_s);
   mnuDatei->addSeparator();
@@ -66,7 +69,7 @@ void frmOptions::MenueBauen() {
   Gesperrt(u"mnuWHSM306"_s, u"Daten Drucken HSM &306"_s, spaeter);
   Gesperrt(u"mnuWHSMvde"_s, u"Daten Drucken HSM &VDE"_s, spaeter);
   mnuDatei->addSeparator();
-  Winkeleintrag(u"mnuWinkelBeispiel"_s, u"&Beispiel"_s, &WinkelTab::Beispiel);
+  winkeleintrag(u"mnuWinkelBeispiel"_s, u"&Beispiel"_s, &WinkelTab::Beispiel);
 
   QAction* fenster = menuBar()->addAction(u"&Fenster Schließen"_s);
   fenster->setObjectName(u"mnuFenster"_s);
@@ -77,10 +80,6 @@ QAction* frmOptions::Eintrag(const QString& name, const QString& text) {
   QAction* eintrag = mnuDatei->addAction(text);
   eintrag->setObjectName(name);
   return eintrag;
-}
-
-void frmOptions::Winkeleintrag(const QString& name, const QString& text, void (WinkelTab::*tun)()) {
-  connect(Eintrag(name, text), &QAction::triggered, winkel_, [this, tun] { (winkel_->*tun)(); });
 }
 
 void frmOptions::Gesperrt(const QString& name, const QString& text, const QString& grund) {

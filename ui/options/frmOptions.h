@@ -73,7 +73,6 @@ class frmOptions : public QMainWindow {
  private:
   void MenueBauen();
   QAction* Eintrag(const QString& name, const QString& text);
-  void Winkeleintrag(const QString& name, const QString& text, void (WinkelTab::*tun)());
   /// An entry without action; its tooltip says why.
   void Gesperrt(const QString& name, const QString& text, const QString& grund);
   /// The file menu belongs to the angle tab alone.
