@@ -122,12 +122,13 @@ TEST_F(AntennenFall, SucheAendertDieWahlNicht) {
 class DefekteAntennenFall : public OptionenFall {
  protected:
   void SetUp() override {}
+  void FensterOeffnen() { OptionenFall::SetUp(); }
 };
 
 TEST_F(DefekteAntennenFall, AbgeschnittenMeldetSich) {
   DateiAnlegen(u"Antennen.txt"_s, "[A]\r\nX,Yagi,144,12,10,430\r\n");
   buehne.boxen.Erwarten(u"Hinweis"_s, u"Fehler in Antennendatei: Antennen.txt"_s);
-  OptionenFall::SetUp();
+  FensterOeffnen();
   EXPECT_EQ(Finden<QListWidget>(fenster, u"LstAntennen"_s).count(), 1);
 }
 
@@ -136,12 +137,12 @@ TEST_F(DefekteAntennenFall, ZuVieleGruppenMeldenSich) {
   for (int i = 0; i < 10; ++i) bytes += "144,12,10,";
   DateiAnlegen(u"Antennen.txt"_s, bytes + "#\r\n");
   buehne.boxen.Erwarten(u"Vesk - Fehlermeldung"_s, u"Index"_s);
-  OptionenFall::SetUp();
+  FensterOeffnen();
 }
 
 TEST_F(DefekteAntennenFall, FehltOhneMeldung) {
   DateiAnlegen(u"Antennen.txt"_s, "");
-  OptionenFall::SetUp();
+  FensterOeffnen();
   EXPECT_EQ(Finden<QListWidget>(fenster, u"LstAntennen"_s).count(), 0);
 }
 
