@@ -11,6 +11,7 @@
 #include "Hinweise.h"
 #include "Rechenauftrag.h"
 #include "Version.h"
+#include "Zahlen.h"
 
 namespace vesk {
 
@@ -125,7 +126,7 @@ std::string Rechts(const std::string& text, std::size_t breite) {
 }
 
 void TabelleAusgeben(const Rechenauftrag& auftrag, const Rechenergebnis& e, const Feldtexte& texte,
-                     std::ostream& aus) {
+                     char trenner, std::ostream& aus) {
   constexpr std::size_t Titelbreite = 44;
   constexpr std::size_t Spaltenbreite = 16;
   const bool abstand = e.modus == Modus::Abstand;
@@ -135,11 +136,8 @@ void TabelleAusgeben(const Rechenauftrag& auftrag, const Rechenergebnis& e, cons
     for (const std::string& feld : felder) aus << Rechts(feld, Spaltenbreite);
     aus << '\n';
   };
-  const auto frequenz = [&](Feld kopf) {
-    return text(kopf).substr(std::min(text(kopf).size(), std::size_t{9}));
-  };
-  const auto vdeFrequenz =
-      text(Feld::KopfHSMvde).substr(std::min(text(Feld::KopfHSMvde).size(), std::size_t{8}));
+  const auto frequenz = [&](float mhz) { return Formatieren(mhz, 2, trenner); };
+  const Auswertefrequenzen& f = e.grenzwerte.frequenz;
 
   zeile(auftrag.art.afu ? "AFu-Band [MHz]" : "Betriebsfrequenz [MHz]", {auftrag.werte.QRGText});
   zeile(abstand ? "Sendeleistung [W]" : "Sicherheitsabstand [m]", {auftrag.werte.PWRText});
@@ -152,7 +150,7 @@ void TabelleAusgeben(const Rechenauftrag& auftrag, const Rechenergebnis& e, cons
   zeile("Fernfeld ab [m]", {text(Feld::Fernfeld)});
   aus << '\n';
   zeile("", {"ohne HSM", "HSM VDE", "HSM 306"});
-  zeile("Berechnung für  f  [MHz]", {frequenz(Feld::KopfOhneHSM), vdeFrequenz, vdeFrequenz});
+  zeile("Berechnung für  f  [MHz]", {frequenz(f.grenzwert), frequenz(f.hsm), frequenz(f.hsm)});
   zeile("Grenzwert der Ersatzfeldstärke Eg [V/m]",
         {text(Feld::GrenzwertOhneHSM), text(Feld::GrenzwertHSMvde), text(Feld::GrenzwertHSM306)});
   zeile("Spitzenspannung Uss [V]", {"", text(Feld::UssVDE), text(Feld::Uss306)});
@@ -180,7 +178,7 @@ int Rechnen(std::span<const std::string> argumente, char dezimaltrenner, std::os
     if (auftrag.json) {
       JsonAusgeben(auftrag.werte, ergebnis, texte, aus);
     } else {
-      TabelleAusgeben(auftrag, ergebnis, texte, aus);
+      TabelleAusgeben(auftrag, ergebnis, texte, dezimaltrenner, aus);
     }
     if (!ergebnis.fehler) return 0;
     fehler << "vesk rechnen: " << Fehlermeldung(*ergebnis.fehler).text << '\n';

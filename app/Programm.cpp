@@ -24,7 +24,6 @@ namespace vesk {
 Programm::Programm(Zustand& zustand, Plattform& plattform, const Verzeichnisse& verzeichnisse)
     : zustand_(zustand),
       plattform_(plattform),
-      verzeichnisse_(verzeichnisse),
       hauptfenster_(zustand_, plattform),
       datenblatt_(zustand_, plattform),
       benutzer_(zustand_, plattform, &hauptfenster_),

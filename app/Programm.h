@@ -32,6 +32,8 @@ class Programm : public QObject, private Dateifenster {
 
   /// Opens the program as the user starts it.
   void Starten();
+  /// Saves and announces the end; the user may go on when something cannot be saved.
+  void Beenden();
 
   Zustand& zustand() { return zustand_; }
   frmVesk& Hauptfenster() { return hauptfenster_; }
@@ -70,7 +72,6 @@ class Programm : public QObject, private Dateifenster {
   void TooltipsZeigen(bool an);
   void HauptfensterAktiviert();
   void DateimenueSperren(bool gesperrt);
-  void Beenden();
 
   void SchalterLesen(Einstellungen& einstellungen) const override;
   void Abschliessen() override;
@@ -83,7 +84,6 @@ class Programm : public QObject, private Dateifenster {
 
   Zustand& zustand_;
   Plattform& plattform_;
-  Verzeichnisse verzeichnisse_;
   frmVesk hauptfenster_;
   frmDatenblatt datenblatt_;
   frmUser benutzer_;

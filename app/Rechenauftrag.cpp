@@ -47,6 +47,7 @@ constexpr Bereich BisEins = {0, 1, true, "muss größer als 0 und höchstens 1 s
 /// A number with comma or point as the text that the record keeps. Throws Eingabefehler.
 std::string Zahltext(const std::string& option, std::string text, const Bereich& bereich) {
   const std::string eingabe = text.size() > 40 ? text.substr(0, 37) + "..." : text;
+  if (text.starts_with('+')) text.erase(0, 1);
   const std::size_t komma = text.find(',');
   if (komma != std::string::npos) text[komma] = '.';
   const std::string_view ziffern = std::string_view(text).substr(text.starts_with('-') ? 1 : 0);
@@ -84,7 +85,8 @@ void Eintragen(int kennung, const std::string& text, Rechenauftrag& auftrag) {
       return;
     case PWR:
     case Abstand:
-      if (!werte.PWRText.empty()) throw Eingabefehler("--pwr und --abstand schließen einander aus.");
+      if (!werte.PWRText.empty())
+        throw Eingabefehler("--pwr und --abstand schließen einander aus und dürfen nur einmal stehen.");
       werte.PWRText = Zahltext(kennung == PWR ? "pwr" : "abstand", text, GroesserNull);
       auftrag.art.modus = kennung == PWR ? Modus::Abstand : Modus::Leistung;
       return;

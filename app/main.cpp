@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "Dezimaltrenner.h"
+#include "Endesignal.h"
 #include "Hilfesystem.h"
 #include "Kommandozeile.h"
 #include "Programm.h"
@@ -73,6 +74,7 @@ bool OhneBildschirm() {
 int FensterOeffnen(int anzahl, char** argumente, const Startoptionen& optionen) {
   // A limit on the size of files must let a save fail, not end the program with the data in it.
   std::signal(SIGXFSZ, SIG_IGN);
+  vesk::Endesignal ende;
   const QApplication anwendung(anzahl, argumente);
   QApplication::setApplicationName(u"Vesk"_s);
   QApplication::setOrganizationName(u"Vesk"_s);
@@ -100,6 +102,8 @@ int FensterOeffnen(int anzahl, char** argumente, const Startoptionen& optionen) 
   // exit, not quit: quit would close the windows, and closing the options window means something.
   QObject::connect(
       &programm, &vesk::Programm::beendet, qApp, [] { QApplication::exit(0); }, Qt::QueuedConnection);
+  QObject::connect(&ende, &vesk::Endesignal::verlangt, &programm, &vesk::Programm::Beenden);
+  ende.Lauschen();
   programm.Starten();
   return QApplication::exec();
 }

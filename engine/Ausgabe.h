@@ -27,8 +27,9 @@ enum class Feld {
   KopfHSM306,
   WAntEinPWR,
   WEIRP,
+  Anzahl,
 };
-inline constexpr std::size_t AnzahlFelder = 17;
+inline constexpr auto AnzahlFelder = static_cast<std::size_t>(Feld::Anzahl);
 
 /// Control names of the fields, in the order of Feld.
 inline constexpr std::array<std::string_view, AnzahlFelder> Feldnamen = {

@@ -5,7 +5,7 @@
 /// What the windows need of the desktop. Tests put scripted implementations in place of the real ones.
 namespace vesk {
 
-enum class Symbol { Keins, Ausrufezeichen, Frage };
+enum class Symbol { Ausrufezeichen, Frage };
 enum class Knoepfe { OK, JaNein };
 enum class Antwort : short { OK = 1, Ja = 6, Nein = 7 };
 

@@ -59,8 +59,6 @@ Antwort QtMeldungsboxen::Zeigen(const Box& box) {
   // Some texts break their lines with CR, which a label does not show.
   fenster.setText(QString(box.text).replace(QLatin1Char('\r'), QLatin1Char('\n')));
   switch (box.symbol) {
-    case Symbol::Keins:
-      break;
     case Symbol::Ausrufezeichen:
       fenster.setIcon(QMessageBox::Warning);
       break;

@@ -54,11 +54,12 @@ frmVesk::frmVesk(Zustand& zustand, Plattform& plattform) : zustand_(zustand), pl
   raster->addWidget(ModusAnlegen(), 0, 0, 1, 2);
   raster->addWidget(EingabenAnlegen(), 1, 0);
   raster->addWidget(AusgabenAnlegen(), 1, 1);
-  auto* lblReferat = Titel(
-      u"lblReferat"_s,
-      u"%1 %2  -  Alle Angaben ohne Gewähr"_s.arg(QString::fromUtf8(Produktname.data(), Produktname.size()),
-                                                  QString::fromStdString(VersionLang())),
-      flaeche);
+  auto* lblReferat =
+      Titel(u"lblReferat"_s,
+            u"%1 %2  -  %3"_s.arg(QString::fromUtf8(Produktname.data(), Produktname.size()),
+                                  QString::fromStdString(VersionLang()),
+                                  QString::fromUtf8(Rechtshinweis.data(), Rechtshinweis.size())),
+            flaeche);
   raster->addWidget(lblReferat, 2, 0, 1, 2, Qt::AlignRight);
   raster->setRowStretch(3, 1);
   List1 = new QListWidget(flaeche);

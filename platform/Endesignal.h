@@ -1,0 +1,23 @@
+#pragma once
+#include <QObject>
+
+namespace vesk {
+
+/// Logging out, shutting down and Ctrl+C ask a program to end by a signal. It becomes an event here, so that
+/// the program can save first. Must be created before any other thread starts, so before the application.
+class Endesignal : public QObject {
+  Q_OBJECT
+ public:
+  explicit Endesignal(QObject* eltern = nullptr);
+  ~Endesignal() override;
+  /// Call once when there is an event loop.
+  void Lauschen();
+
+ Q_SIGNALS:
+  void verlangt();
+
+ private:
+  int kanal_;
+};
+
+}  // namespace vesk
