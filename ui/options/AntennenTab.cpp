@@ -80,6 +80,10 @@ void AntennenTab::ListeEingrenzen() {
     const QString zeile = neueGruppe ? MitHersteller(zeilen_.at(i), hersteller) : zeilen_.at(i);
     if (LstAntennen->item(i)->text() != zeile) LstAntennen->item(i)->setText(zeile);
   }
+  // A pending layout would scroll by the places that the lines had before.
+  LstAntennen->doItemsLayout();
+  const int gewaehlt = LstAntennen->currentRow();
+  if (gewaehlt >= 0 && treffer[std::size_t(gewaehlt)]) LstAntennen->scrollToItem(LstAntennen->item(gewaehlt));
   lblTreffer->setText(u"%1 von %2"_s.arg(anzahl).arg(LstAntennen->count()));
 }
 

@@ -24,6 +24,8 @@ Liste* Spaltenliste(const QString& name, const QString& beschreibung, QWidget* e
   liste->setUniformItemSizes(true);
   liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   liste->setTextElideMode(Qt::ElideNone);
+  // Counted by items the scroll range goes wrong with hidden lines.
+  liste->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   return liste;
 }
 

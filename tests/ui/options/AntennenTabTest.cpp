@@ -119,6 +119,22 @@ TEST_F(AntennenFall, SucheAendertDieWahlNicht) {
   EXPECT_EQ(Antennen().item(1)->text().left(10), QString(10, u' '));
 }
 
+TEST_F(AntennenFall, DieGewaehlteZeileBleibtImBlick) {
+  fenster.resize(fenster.width(), fenster.minimumSizeHint().height() + 10 * fenster.fontMetrics().height());
+  QTest::qWait(1);
+  const auto imBlick = [&] {
+    const int mitte = Antennen().visualItemRect(Antennen().currentItem()).center().y();
+    return mitte >= 0 && mitte < Antennen().viewport()->height();
+  };
+  ZeileKlicken(u"LstAntennen"_s, u"Yagi 6el"_s);
+  Tippen(u"txtSuche"_s, u"yagi 144"_s);
+  EXPECT_TRUE(imBlick());
+  QTest::keyClick(&Finden<QLineEdit>(fenster, u"txtSuche"_s), Qt::Key_Return);
+  EXPECT_TRUE(imBlick());
+  Finden<QLineEdit>(fenster, u"txtSuche"_s).clear();
+  EXPECT_TRUE(imBlick());
+}
+
 class DefekteAntennenFall : public OptionenFall {
  protected:
   void SetUp() override {}
