@@ -211,6 +211,14 @@ TEST_F(GanzesProgramm, TooltipsGehenInAllenFensternAusUndAn) {
   }
   Menue(u"frmVesk"_s, u"mnuToolTips"_s);
   EXPECT_EQ(Tooltips().join(u'\n').toStdString(), "");
+  // Screen readers still tell what a field is for, in the mode that is on.
+  Menue(u"frmVesk"_s, u"mnuAbstand"_s);
+  EXPECT_EQ(Finden<QLineEdit>(programm.Hauptfenster(), u"txtPWR"_s).accessibleDescription(),
+            u"Eingabe: Maximal möglicher Sicherheitsabstand");
+  Menue(u"frmVesk"_s, u"mnuAbstand"_s);
+  EXPECT_TRUE(Finden<QLineEdit>(programm.Hauptfenster(), u"txtGewinn"_s)
+                  .accessibleDescription()
+                  .startsWith(u"Eingabe"_s));
   Menue(u"frmVesk"_s, u"mnuToolTips"_s);
   EXPECT_EQ(Tooltips(), an);
 }

@@ -16,8 +16,11 @@ struct Feldhilfe {
   int rest = 0;
 };
 
-/// Writes the table's texts to the controls of `fenster`, or empties exactly those tooltips.
+/// Writes the table's texts to the controls of `fenster`, or empties exactly those tooltips. Screen readers
+/// are told them in both cases.
 void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool an);
+/// Only what screen readers are told.
+void BeschreibungenSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle);
 
 /// One row of a window's table of help context numbers.
 struct Hilfenummer {

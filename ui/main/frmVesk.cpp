@@ -182,6 +182,7 @@ void frmVesk::switchLeistung() {
     lblModus->setToolTip(u"Klick zum Umschalten auf Berechnung der Sendeleistung"_s);
   }
   txtPWR->setAccessibleName(lblPWR->text());
+  BeschreibungenSetzen(*this, HauptTooltipsModus(leistung));
   FeldFarben();
 }
 

@@ -73,7 +73,8 @@ void OptionenTooltips(QWidget& fenster, bool an) {
   TooltipsSetzen(fenster, Tooltips, an);
   for (QRadioButton* knopf : fenster.findChildren<QRadioButton*>()) {
     if (!knopf->objectName().startsWith(u"optDuty_"_s)) continue;
-    knopf->setToolTip(an ? u"Sende/Empfangszyklus = "_s + knopf->text() : QString());
+    knopf->setAccessibleDescription(u"Sende/Empfangszyklus = "_s + knopf->text());
+    knopf->setToolTip(an ? knopf->accessibleDescription() : QString());
   }
 }
 
