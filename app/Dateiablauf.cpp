@@ -45,6 +45,11 @@ fs::path Dateiablauf::Pfad() const {
 void Dateiablauf::InitLaden() {
   if (liest_) return;
   const QScopedValueRollback liest(liest_, true);
+  DateiUebernehmen();
+  rettung_.Gesichert(Bytes());
+}
+
+void Dateiablauf::DateiUebernehmen() {
   const bool gewaehlt = std::exchange(dateiGewaehlt_, false);
   neuesRufzeichen_ = false;
   zustand_.UserGeaendert = false;
@@ -227,6 +232,7 @@ bool Dateiablauf::Schreiben(bool auchFremdes) {
     return Fehler("Die Datei " + zustand_.UserDatei + " konnte nicht gespeichert werden.", ergebnis.grund);
   }
   zustand_.UserGeaendert = false;
+  rettung_.Gesichert(bytes);
   fenster_.BenutzerfensterVerbergen();
   return true;
 }
@@ -277,7 +283,46 @@ bool Dateiablauf::Beenden() {
       neuesRufzeichen_ ? u"Die Daten des neuen Rufzeichens sind noch nicht gesichert.\n"_s : QString();
   if (!gerettet && !Frage(Programmtitel, grund + u"Programm trotzdem beenden?"_s)) return false;
   beendet_ = true;
+  rettung_.Gesichert({});
   return true;
+}
+
+// --------------------------------------------------------------------------------------- after a crash
+
+std::string Dateiablauf::Bytes() const {
+  fenster_.SchalterLesen(zustand_.einstellungen);
+  return UserDateiSchreiben(zustand_);
+}
+
+void Dateiablauf::RettungSichern() {
+  if (liest_ || speichert_ || beendet_) return;
+  rettung_.Sichern(zustand_.ProgrammVerzeichnis, neuesRufzeichen_ ? std::string() : zustand_.UserDatei,
+                   Bytes());
+}
+
+void Dateiablauf::RettungAnbieten() {
+  for (const Rettung::Fund& fund : Rettung::Suchen(zustand_.ProgrammVerzeichnis)) {
+    const QString von = fund.datei.empty() ? u"für ein neues Rufzeichen"_s : u"an "_s + AlsText(fund.datei);
+    const QString frage =
+        u"Das Programm wurde nicht ordentlich beendet. Es gibt ungesicherte Änderungen %1.\n"
+        "Sollen sie zurückgeholt werden?"_s;
+    const Box box{Programmtitel, frage.arg(von), Symbol::Frage, Knoepfe::JaNein, Antwort::Ja};
+    const bool zurueckholen = plattform_.boxen.Zeigen(box) == Antwort::Ja;
+    if (zurueckholen) {
+      if (!fund.datei.empty() && fund.datei != zustand_.UserDatei) {
+        zustand_.UserDatei = fund.datei;
+        InitLaden();
+      }
+      fenster_.StandZeigen(UserDateiLesen(fund.bytes, zustand_));
+      neuesRufzeichen_ = fund.datei.empty();
+      zustand_.UserGeaendert = true;
+      TitelSetzen();
+    }
+    std::error_code egal;
+    fs::remove(fund.pfad, egal);
+    if (zurueckholen) break;
+  }
+  RettungSichern();
 }
 
 bool Dateiablauf::NichtsZuVerlieren() const {

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "Dateistand.h"
+#include "Rettung.h"
 #include "UserDatei.h"
 
 namespace vesk {
@@ -71,8 +72,15 @@ class Dateiablauf {
   /// Saves. True: the program may end; otherwise the user wants to go on.
   bool Beenden();
 
+  /// Keeps what is not saved yet for the case of a crash; to be called every few seconds.
+  void RettungSichern();
+  /// After the first InitLaden: asks whether what a crash has left is wanted back.
+  void RettungAnbieten();
+
  private:
   std::filesystem::path Pfad() const;
+  void DateiUebernehmen();
+  std::string Bytes() const;
   void NichtGelesen(const Gelesen& datei);
   void Umwandeln(const Lesebericht& bericht);
   void NeuLesenUndAuffrischen();
@@ -91,6 +99,7 @@ class Dateiablauf {
   Plattform& plattform_;
   Dateifenster& fenster_;
   Dateistand stand_;
+  Rettung rettung_;
   std::filesystem::path anderswoGemeldet_;
   bool liest_ = false;
   bool speichert_ = false;

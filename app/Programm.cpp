@@ -49,6 +49,7 @@ void Programm::Starten() {
   hauptfenster_.Aktion("mnuMeldungen").setChecked(true);
   datenblatt_.OptionenBeruecksichtigenSetzen(true);
   ablauf_.InitLaden();
+  ablauf_.RettungAnbieten();
 
   hauptfenster_.show();
   const bool alle = hauptfenster_.Aktion("mnuFenster").isChecked();
@@ -73,6 +74,10 @@ void Programm::Starten() {
   verbund_.KopierknopfAuffrischen();
   hauptfenster_.Scharfschalten();
   hauptfenster_.activateWindow();
+  constexpr int Sicherungstakt = 2000;  // ms; more than this is never lost
+  auto* takt = new QTimer(this);
+  connect(takt, &QTimer::timeout, this, &Programm::RettungSichern);
+  takt->start(Sicherungstakt);
 }
 
 std::function<void()> Programm::Antwort(std::function<void()> tun) {
@@ -319,6 +324,10 @@ void Programm::DateimenueSperren(bool gesperrt) {
   for (const char* name : {"mnuDateiLaden", "mnuDateiSpeichern", "mnuDateiSpeichernUnter"}) {
     hauptfenster_.Aktion(name).setEnabled(!gesperrt);
   }
+}
+
+void Programm::RettungSichern() {
+  ablauf_.RettungSichern();
 }
 
 void Programm::Beenden() {

@@ -34,6 +34,8 @@ class Programm : public QObject, private Dateifenster {
   void Starten();
   /// Saves and announces the end; the user may go on when something cannot be saved.
   void Beenden();
+  /// Keeps what is not saved yet for the case of a crash; runs by itself every few seconds.
+  void RettungSichern();
 
   Zustand& zustand() { return zustand_; }
   frmVesk& Hauptfenster() { return hauptfenster_; }

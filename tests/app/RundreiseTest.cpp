@@ -119,6 +119,40 @@ TEST_F(Rundreise, SignaltypAendertDieAktuelleSpalte) {
   EXPECT_EQ(lauf.programm.zustand().Datenblattspalten[1].Grenzwerttyp, 1);
 }
 
+/// A program that dies is one that is never asked to end.
+TEST_F(Rundreise, NachEinemAbsturzKommtDasGetippteZurueck) {
+  const auto dateien = [this] {
+    return QDir(verzeichnis.path()).entryList({u".*rettung"_s}, QDir::Files | QDir::Hidden);
+  };
+  {
+    Lauf lauf(verzeichnis.path());
+    lauf.DatenblattZeigen();
+    QTest::keyClicks(&Finden<QLineEdit>(lauf.programm.Datenblatt(), u"txtA_0"_s), u"12 m"_s);
+    lauf.programm.RettungSichern();
+    EXPECT_EQ(dateien().size(), 1);
+    // Another program that starts meanwhile must not take it for a remainder.
+    Lauf zweiter(verzeichnis.path());
+    EXPECT_EQ(zweiter.Zelle(1, 1), u"");
+  }
+  {
+    skript::Buehne buehne;
+    buehne.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"0"_s);
+    buehne.boxen.Erwarten(u"Vesk"_s, u"nicht ordentlich beendet"_s, Antwort::Ja);
+    Zustand zustand;
+    Programm programm(zustand, buehne.plattform, {verzeichnis.path(), {}});
+    programm.Starten();
+    EXPECT_EQ(zustand.Zellen[0], "12 m");
+    EXPECT_EQ(Finden<QLineEdit>(programm.Datenblatt(), u"txtA_0"_s).text(), u"12 m");
+    EXPECT_TRUE(zustand.UserGeaendert);
+    // Not saved yet, so a second crash loses nothing either.
+    EXPECT_EQ(dateien().size(), 1);
+    programm.Beenden();
+    EXPECT_EQ(dateien().size(), 0);
+  }
+  Lauf lauf(verzeichnis.path());
+  EXPECT_EQ(lauf.Zelle(1, 1), u"12 m");
+}
+
 TEST_F(Rundreise, KeinVerlustWennDasSpeichernScheitert) {
   Lauf lauf(verzeichnis.path());
   lauf.Eingeben({u"14.2"_s, u"100"_s, u"0"_s, u"0"_s, u"0"_s});
