@@ -1,5 +1,6 @@
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
 
+#include <QCommandLineParser>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -7,15 +8,28 @@
 #include <ostream>
 #include <vector>
 
-#include "Ausgabe.h"
-#include "Hinweise.h"
-#include "Rechenauftrag.h"
-#include "Version.h"
-#include "Zahlen.h"
+#include "app/Rechenauftrag.h"
+#include "engine/Ausgabe.h"
+#include "engine/Hinweise.h"
+#include "engine/Version.h"
+#include "engine/Zahlen.h"
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 
 namespace {
+
+constexpr const char* Hilfe =
+    " - Sicherheitsabstände ortsfester Amateurfunkstellen\n"
+    "\n"
+    "Aufruf: vesk [--verzeichnis DIR]    öffnet das Programm\n"
+    "        vesk rechnen ...            rechnet im Terminal (siehe unten)\n"
+    "        vesk --version              zeigt die Version\n"
+    "        vesk --help                 zeigt diese Hilfe\n"
+    "\n"
+    "  --verzeichnis DIR   Verzeichnis mit den Dateien des Benutzers (user.dat, Kabel.txt, Antennen.txt)\n"
+    "\n";
 
 constexpr const char* Hilferechnen =
     "Aufruf: vesk rechnen --qrg MHZ (--pwr WATT | --abstand METER) [Optionen]\n"
@@ -35,80 +49,94 @@ constexpr const char* Hilferechnen =
     "  --json            Ausgabe für Maschinen\n"
     "  --help            diese Hilfe\n"
     "\n"
-    "Rückgabewert: 0; 1 bei einem Fehler der Berechnung; 2 bei falschen oder fehlenden Angaben.\n";
+    "Rückgabewert: 0; 1 bei einem Fehler der Berechnung oder der Ausgabe; 2 bei falschen oder fehlenden "
+    "Angaben.\n";
 
 /// The notes that a window would have shown, in its order.
 std::vector<Hinweis> Hinweise(const Rechenergebnis& e) {
   std::vector<Hinweis> liste;
-  if (e.grenzwerte.ausserhalb) liste.push_back(BereichsHinweis());
-  if (e.grenzwerte.hsmVDE.ausserhalb) liste.push_back(HSMBereichsHinweis());
-  if (e.vollstaendig && e.Nahfeldflags != 0) liste.push_back(NahfeldHinweis(e.Nahfeldflags, e.modus));
-  if (e.vollstaendig && e.grenzwerte.hsmVDE.Uss == 0) liste.push_back(HSMHinweis());
+  for (const Hinweisart art : FaelligeHinweise(e)) liste.push_back(HinweisZu(art, e));
   return liste;
 }
 
+/// The texts of the calculation. Where no limit is defined there is no result either, also when a fault has
+/// kept its field from being emptied.
+Feldtexte Texte(const Rechenergebnis& e, char trenner) {
+  Feldtexte texte = Ausgabetexte(e, trenner);
+  if (e.grenzwerte.ohneHSM == 0) texte[Feld::AusgabeOhneHSM].reset();
+  if (e.grenzwerte.hsm306.Grenzwert == 0) texte[Feld::AusgabeHSM306].reset();
+  if (e.grenzwerte.hsmVDE.Grenzwert == 0) texte[Feld::AusgabeHSMvde].reset();
+  return texte;
+}
+
 /// The shortest decimal that is this single, so that 14.2 is not written as 14.199999809.
-double Kuerzeste(float wert) {
+QJsonValue Wert(const std::optional<float>& wert) {
+  if (!wert) return QJsonValue::Null;
   std::array<char, 64> puffer{};
-  const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert).ptr;
+  const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), *wert).ptr;
   double zahl = 0;
   std::from_chars(puffer.data(), ende, zahl);
   return zahl;
 }
 
-QJsonValue Wert(const std::optional<float>& wert) {
-  return wert ? QJsonValue(Kuerzeste(*wert)) : QJsonValue(QJsonValue::Null);
+/// A quantity that is never 0: 0 stands for undefined or not reached.
+std::optional<float> Definiert(float wert) {
+  return wert != 0 ? std::optional(wert) : std::nullopt;
 }
 
 QJsonObject Werte(const Rechenwerte& w, const Rechenergebnis& e) {
   const bool abstand = e.modus == Modus::Abstand;
+  const auto zu = [](float grenzwert, const std::optional<float>& ergebnis) {
+    return grenzwert != 0 ? ergebnis : std::nullopt;
+  };
+  const Grenzwerte& g = e.grenzwerte;
   const std::pair<const char*, std::optional<float>> tabelle[] = {
       {"QRG", w.QRG},
       {"QRGGrenzwert", w.QRGGrenzwert},
       {"QRGHSM", w.QRGHSM},
       {"QRGLambda", w.QRGLambda},
-      {"GrenzwertOhneHSM", w.GrenzwertOhneHSM},
-      {"GrenzwertHSM306", w.GrenzwertHSM306},
-      {"GrenzwertHSMvde", w.GrenzwertHSMvde},
-      {"SpitzenfeldHSM306", w.SpitzenfeldHSM306},
-      {"Uss306", w.Uss306},
-      {"UssVDE", w.UssVDE},
+      {"GrenzwertOhneHSM", Definiert(g.ohneHSM)},
+      {"GrenzwertHSM306", Definiert(g.hsm306.Grenzwert)},
+      {"GrenzwertHSMvde", Definiert(g.hsmVDE.Grenzwert)},
+      {"SpitzenfeldHSM306", Definiert(g.hsm306.Spitzenfeld)},
+      {"Uss306", Definiert(g.hsm306.Uss)},
+      {"UssVDE", Definiert(g.hsmVDE.Uss)},
       {"Faktor", Faktor(w)},
-      {"Lambda", e.grenzwerte.Lambda},
-      {"Nahfeld", e.grenzwerte.Nahfeld},
-      {"Fernfeld", e.grenzwerte.Fernfeld},
+      {"Lambda", Definiert(g.Lambda)},
+      {"Nahfeld", Definiert(g.Nahfeld)},
+      {"Fernfeld", Definiert(g.Fernfeld)},
       {"EIRP", e.EIRP},
       {"AntEinPWR", e.AntEinPWR},
       {"WEIRP", e.WEIRP},
-      {abstand ? "AbstandOhneHSM" : "LeistungOhneHSM", e.ohneHSM},
-      {abstand ? "AbstandHSM306" : "LeistungHSM306", e.HSM306},
-      {abstand ? "AbstandHSMvde" : "LeistungHSMvde", e.HSMvde},
+      {abstand ? "AbstandOhneHSM" : "LeistungOhneHSM", zu(g.ohneHSM, e.ohneHSM)},
+      {abstand ? "AbstandHSM306" : "LeistungHSM306", zu(g.hsm306.Grenzwert, e.HSM306)},
+      {abstand ? "AbstandHSMvde" : "LeistungHSMvde", zu(g.hsmVDE.Grenzwert, e.HSMvde)},
   };
   QJsonObject objekt;
-  for (const auto& [name, wert] : tabelle) objekt.insert(QLatin1String(name), Wert(wert));
+  for (const auto& [name, wert] : tabelle) objekt.insert(QLatin1StringView(name), Wert(wert));
   return objekt;
 }
 
-QString Text(const std::string& text) {
-  return QString::fromStdString(text);
+/// A field that is empty or was not written has no value.
+QJsonValue Text(const std::string& text) {
+  return text.empty() ? QJsonValue() : QJsonValue(QString::fromStdString(text));
 }
 
 void JsonAusgeben(const Rechenwerte& w, const Rechenergebnis& e, const Feldtexte& texte, std::ostream& aus) {
-  QJsonObject objekt{{QStringLiteral("txtQRG"), Text(w.QRGText)},
-                     {QStringLiteral("txtPWR"), Text(w.PWRText)},
-                     {QStringLiteral("txtGewinn"), Text(w.GewinnText)},
-                     {QStringLiteral("txtDaempfung"), Text(w.DaempfungText)},
-                     {QStringLiteral("txtWinkelDaempfung"), Text(w.WinkelDaempfungText)},
-                     {QStringLiteral("Nahfeldflags"), e.Nahfeldflags},
-                     {QStringLiteral("Werte"), Werte(w, e)}};
+  QJsonObject objekt{{u"txtQRG"_s, Text(w.QRGText)},
+                     {u"txtPWR"_s, Text(w.PWRText)},
+                     {u"txtGewinn"_s, Text(w.GewinnText)},
+                     {u"txtDaempfung"_s, Text(w.DaempfungText)},
+                     {u"txtWinkelDaempfung"_s, Text(w.WinkelDaempfungText)},
+                     {u"Nahfeldflags"_s, e.vollstaendig ? QJsonValue(e.Nahfeldflags) : QJsonValue()},
+                     {u"Werte"_s, Werte(w, e)}};
   for (std::size_t i = 0; i < AnzahlFelder; ++i) {
-    const QString name = QString::fromUtf8(Feldnamen[i].data(), static_cast<qsizetype>(Feldnamen[i].size()));
-    objekt.insert(name, Text(texte[static_cast<Feld>(i)].value_or("")));
+    objekt.insert(QLatin1StringView(Feldnamen[i]), Text(texte[static_cast<Feld>(i)].value_or("")));
   }
   QJsonArray meldungen;
   for (const Hinweis& hinweis : Hinweise(e)) meldungen.append(Text(hinweis.text));
-  objekt.insert(QStringLiteral("Meldungen"), meldungen);
-  if (e.fehler) objekt.insert(QStringLiteral("Laufzeitfehler"), Text(Fehlermeldung(*e.fehler).text));
+  objekt.insert(u"Meldungen"_s, meldungen);
+  if (e.fehler) objekt.insert(u"Laufzeitfehler"_s, Text(Fehlermeldung(*e.fehler).text));
   aus << QJsonDocument(objekt).toJson(QJsonDocument::Indented).toStdString();
 }
 
@@ -163,45 +191,62 @@ void TabelleAusgeben(const Rechenauftrag& auftrag, const Rechenergebnis& e, cons
   }
 }
 
-}  // namespace
-
-int Rechnen(std::span<const std::string> argumente, char dezimaltrenner, std::ostream& aus,
-            std::ostream& fehler) {
-  try {
-    Rechenauftrag auftrag = RechenauftragLesen(argumente);
-    if (auftrag.hilfe) {
-      aus << Hilferechnen;
-      return 0;
-    }
-    const Rechenergebnis ergebnis = Berechnen(auftrag.werte, auftrag.art);
-    const Feldtexte texte = Ausgabetexte(ergebnis, dezimaltrenner);
-    if (auftrag.json) {
-      JsonAusgeben(auftrag.werte, ergebnis, texte, aus);
-    } else {
-      TabelleAusgeben(auftrag, ergebnis, texte, dezimaltrenner, aus);
-    }
-    if (!ergebnis.fehler) return 0;
-    fehler << "vesk rechnen: " << Fehlermeldung(*ergebnis.fehler).text << '\n';
-    return 1;
-  } catch (const Eingabefehler& eingabe) {
-    fehler << "vesk rechnen: " << eingabe.what() << "\nMehr dazu: vesk rechnen --help\n";
-    return 2;
+int Rechnen(const QStringList& argumente, char dezimaltrenner, std::ostream& aus, std::ostream& fehler) {
+  Rechenauftrag auftrag = RechenauftragLesen(argumente);
+  if (auftrag.hilfe) {
+    aus << Hilferechnen;
+    return 0;
   }
+  const Rechenergebnis ergebnis = Berechnen(auftrag.werte, auftrag.art);
+  const Feldtexte texte = Texte(ergebnis, dezimaltrenner);
+  if (auftrag.json) {
+    JsonAusgeben(auftrag.werte, ergebnis, texte, aus);
+  } else {
+    TabelleAusgeben(auftrag, ergebnis, texte, dezimaltrenner, aus);
+  }
+  if (!ergebnis.fehler) return 0;
+  fehler << "vesk rechnen: " << Fehlermeldung(*ergebnis.fehler).text << '\n';
+  return 1;
 }
 
-std::string Hilfetext() {
-  return std::string(Produktname) + " " + VersionLang() +
-         " - Sicherheitsabstände ortsfester Amateurfunkstellen\n"
-         "\n"
-         "Aufruf: vesk [--verzeichnis DIR]    öffnet das Programm\n"
-         "        vesk rechnen ...            rechnet im Terminal (siehe unten)\n"
-         "        vesk --version              zeigt die Version\n"
-         "        vesk --help                 zeigt diese Hilfe\n"
-         "\n"
-         "  --verzeichnis DIR   Verzeichnis mit den Dateien des Benutzers (user.dat, Kabel.txt, "
-         "Antennen.txt)\n"
-         "\n" +
-         Hilferechnen;
+Aufruf Fensteraufruf(const QStringList& argumente, std::ostream& aus) {
+  QCommandLineParser leser;
+  // All but the first are read by the toolkit itself.
+  OptionenLesen(leser, {u"verzeichnis"_s, u"platform"_s, u"display"_s, u"style"_s, u"geometry"_s, u"name"_s},
+                {u"version"_s}, argumente);
+  if (leser.isSet(u"help"_s)) {
+    aus << Produktname << ' ' << VersionLang() << Hilfe << Hilferechnen;
+    return {0, {}};
+  }
+  if (leser.isSet(u"version"_s)) {
+    aus << Produktname << ' ' << VersionLang() << '\n';
+    return {0, {}};
+  }
+  // The toolkit knows fewer spellings of these than are accepted here, but also reads them from here.
+  if (leser.isSet(u"platform"_s)) qputenv("QT_QPA_PLATFORM", leser.value(u"platform"_s).toLocal8Bit());
+  if (leser.isSet(u"display"_s)) qputenv("DISPLAY", leser.value(u"display"_s).toLocal8Bit());
+  return {{}, leser.value(u"verzeichnis"_s)};
+}
+
+}  // namespace
+
+Aufruf KommandozeileAusfuehren(const QStringList& argumente, char dezimaltrenner, std::ostream& aus,
+                               std::ostream& fehler) {
+  const bool rechnen = argumente.value(0) == u"rechnen"_s;
+  const char* const name = rechnen ? "vesk rechnen" : "vesk";
+  Aufruf aufruf;
+  try {
+    aufruf = rechnen ? Aufruf{Rechnen(argumente.mid(1), dezimaltrenner, aus, fehler), {}}
+                     : Fensteraufruf(argumente, aus);
+  } catch (const Eingabefehler& eingabe) {
+    fehler << name << ": " << eingabe.what() << "\nMehr dazu: " << name << " --help\n";
+    return {2, {}};
+  }
+  if (aufruf.rueckgabe && !aus.flush()) {
+    fehler << name << ": Die Ausgabe ließ sich nicht schreiben.\n";
+    aufruf.rueckgabe = 1;
+  }
+  return aufruf;
 }
 
 }  // namespace vesk

@@ -1,16 +1,19 @@
 #pragma once
+#include <QStringList>
 #include <iosfwd>
-#include <span>
-#include <string>
+#include <optional>
 
 namespace vesk {
 
-/// `vesk rechnen …`: one calculation in the terminal, without a display. Returns the exit code: 0; 1 a fault
-/// of the calculation (what was computed is printed); 2 wrong or missing input (nothing on `aus`).
-int Rechnen(std::span<const std::string> argumente, char dezimaltrenner, std::ostream& aus,
-            std::ostream& fehler);
+/// What the command line has come to.
+struct Aufruf {
+  std::optional<int> rueckgabe;  ///< exit code of a call that wants no window
+  QString verzeichnis;           ///< --verzeichnis; empty: not given
+};
 
-/// The German text of `vesk --help`.
-std::string Hilfetext();
+/// Does what needs no display: `rechnen …`, help, version. Exit code: 0; 1 a fault of the calculation (what
+/// was computed is printed), or the output could not be written; 2 wrong or missing input (nothing on `aus`).
+Aufruf KommandozeileAusfuehren(const QStringList& argumente, char dezimaltrenner, std::ostream& aus,
+                               std::ostream& fehler);
 
 }  // namespace vesk

@@ -1,33 +1,33 @@
 #pragma once
 #include <QObject>
 #include <QPointer>
-#include <functional>
 #include <memory>
 
-#include "Dateiablauf.h"
-#include "Fensterverbund.h"
-#include "Hilfetaste.h"
-#include "Verzeichnisse.h"
-#include "Zustand.h"
-#include "frmDatenblatt.h"
-#include "frmOptions.h"
-#include "frmUser.h"
-#include "frmVesk.h"
+#include "app/Verzeichnisse.h"
+#include "persistence/Dateiablauf.h"
+#include "persistence/Rueckfragen.h"
+#include "ui/basis/Ablauf.h"
+#include "ui/info/Hilfetaste.h"
+#include "ui/main/frmVesk.h"
 
 class QWindow;
 
 namespace vesk {
 
+class frmDatenblatt;
 class frmInfo;
 class frmLstg;
+class frmOptions;
 class frmTip;
+class frmUser;
 struct Plattform;
 
-/// The one place that creates the windows and ties them together.
-class Programm : public QObject, private Dateifenster {
+/// The running program: turns what the user did into a function call on the station, shows the station in
+/// every window, and says what is to be said. Windows exist from when they are first needed.
+class Programm : public QObject, public Ablauf, private Rueckfragen {
   Q_OBJECT
  public:
-  Programm(Zustand& zustand, Plattform& plattform, const Verzeichnisse& verzeichnisse);
+  Programm(Station& station, Plattform& plattform, const Verzeichnisse& verzeichnisse);
   ~Programm() override;
 
   /// Opens the program as the user starts it.
@@ -37,67 +37,49 @@ class Programm : public QObject, private Dateifenster {
   /// Keeps what is not saved yet for the case of a crash; runs by itself every few seconds.
   void RettungSichern();
 
-  Zustand& zustand() { return zustand_; }
   frmVesk& Hauptfenster() { return hauptfenster_; }
-  frmOptions& Optionen() { return optionen_; }
-  frmDatenblatt& Datenblatt() { return datenblatt_; }
-  frmUser& Benutzerfenster() { return benutzer_; }
+  frmOptions& Optionen();
+  frmDatenblatt& Datenblatt();
+  frmUser& Benutzerfenster();
+  frmLstg& Leistungsumrechnung();
+
+  void Tun(const Handlung& handlung) override;
+  void TunBeimVerlassen(const Handlung& handlung) override;
+  void Befehlen(Befehl befehl) override;
 
  Q_SIGNALS:
   /// Everything is saved; the event loop may end.
   void beendet();
 
  private:
-  void HauptfensterVerbinden();
-  void MenueVerbinden();
-  void DatenblattVerbinden();
-  void BenutzerfensterVerbinden();
-  /// Wraps the answer to a user's event: a run-time error ends it and is shown.
-  std::function<void()> Antwort(std::function<void()> tun);
-  void Bei(const char* menue, std::function<void()> tun);
+  Antwort Fragen(const Hinweis& hinweis) override;
+  std::optional<std::filesystem::path> ZumOeffnen(const Dateiwahl& wahl) override;
+  std::optional<std::filesystem::path> ZumSpeichern(const Dateiwahl& wahl) override;
 
-  void BerechnenKnopf();
-  void Kopieren();
-  void AFuUmgeschaltet();
-  void AbstandUmschalten();
-  void ModusGeklickt();
-  void QrgVerlassen();
-  void NachQrgWechsel();
-  void TooltipsUmschalten();
-  void WarnmeldungenUmschalten();
-  void FensterUmschalten();
-  void DatenblattZeigen();
-  void BenutzerZeigen();
-  void LeistungsumrechnungZeigen();
+  Meldungen Ausfuehren(const Handlung& handlung);
+  void Zeigen();
+  void Sagen(const Meldungen& meldungen);
+  void AufgeschobenesSagen();
+  void HauptfensterAktiviert(QWindow* jetzt);
   void TipZeigen();
   void InfoZeigen();
-  void TooltipsZeigen(bool an);
-  void HauptfensterAktiviert();
-  void DateimenueSperren(bool gesperrt);
 
-  void SchalterLesen(Einstellungen& einstellungen) const override;
-  void Abschliessen() override;
-  void StandZeigen(const Lesebericht& bericht) override;
-  void NachLadenAuffrischen() override;
-  void TitelSetzen(const QString& benutzer, const QString& haupt, const QString& datenblatt) override;
-  void BenutzerfensterVerbergen() override;
-  void BenutzerNeuBeginnen() override;
-  bool DatenblattLoeschen() override;
-
-  Zustand& zustand_;
+  Station& station_;
   Plattform& plattform_;
+  Meldungen startmeldungen_;
+  Kataloge kataloge_;
   frmVesk hauptfenster_;
-  frmDatenblatt datenblatt_;
-  frmUser benutzer_;
-  Fensterverbund verbund_;
-  frmOptions optionen_;
+  std::unique_ptr<frmOptions> optionen_;
+  std::unique_ptr<frmDatenblatt> datenblatt_;
+  std::unique_ptr<frmUser> benutzer_;
   std::unique_ptr<frmLstg> leistung_;
   std::unique_ptr<frmTip> tip_;
   std::unique_ptr<frmInfo> info_;
-  Dateiablauf ablauf_;
+  Dateiablauf dateien_;
   Hilfetaste hilfetaste_;
   QPointer<QWindow> letztesFenster_;  ///< of this program, before the one that is active now
-  bool rechnungSteht_ = false;        ///< a calculation after leaving the frequency is queued
+  Meldungen aufgeschoben_;            ///< of a field that has been left
+  bool beendet_ = false;
 };
 
 }  // namespace vesk

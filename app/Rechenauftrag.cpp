@@ -1,148 +1,126 @@
-#include "Rechenauftrag.h"
+#include "app/Rechenauftrag.h"
 
-#include <getopt.h>
-
+#include <QCommandLineParser>
+#include <QRegularExpression>
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <vector>
+#include <limits>
 
-#include "Zahlen.h"
+#include "engine/Zahlen.h"
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 
 namespace {
 
-enum Option { QRG = 256, PWR, Abstand, Gewinn, Daempfung, Winkel, Faktorwert, Typ, Exakt, Json, Hilfe };
-
-constexpr std::array<option, 12> Optionen = {{
-    {"qrg", required_argument, nullptr, QRG},
-    {"pwr", required_argument, nullptr, PWR},
-    {"abstand", required_argument, nullptr, Abstand},
-    {"gewinn", required_argument, nullptr, Gewinn},
-    {"daempfung", required_argument, nullptr, Daempfung},
-    {"winkel", required_argument, nullptr, Winkel},
-    {"faktor", required_argument, nullptr, Faktorwert},
-    {"typ", required_argument, nullptr, Typ},
-    {"exakt", no_argument, nullptr, Exakt},
-    {"json", no_argument, nullptr, Json},
-    {"help", no_argument, nullptr, Hilfe},
-    {nullptr, 0, nullptr, 0},
-}};
-
 /// Bounds of a number, both inclusive unless `ueberNull`.
 struct Bereich {
-  double von;
-  double bis;
+  float von;
+  float bis;
   bool ueberNull;
-  const char* text;
+  QStringView text;
 };
 
-constexpr double Endlos = 1e300;
-constexpr Bereich GroesserNull = {0, Endlos, true, "muss größer als 0 sein"};
-constexpr Bereich NichtNegativ = {0, Endlos, false, "darf nicht negativ sein"};
-constexpr Bereich HoechstensHundert = {-Endlos, 100, false, "darf höchstens 100 dBi betragen"};
-constexpr Bereich BisEins = {0, 1, true, "muss größer als 0 und höchstens 1 sein"};
+constexpr float Endlos = std::numeric_limits<float>::max();
+constexpr Bereich GroesserNull = {0, Endlos, true, u"muss größer als 0 sein"};
+constexpr Bereich NichtNegativ = {0, Endlos, false, u"darf nicht negativ sein"};
+constexpr Bereich HoechstensHundert = {-Endlos, 100, false, u"darf höchstens 100 dBi betragen"};
+constexpr Bereich BisEins = {0, 1, true, u"muss größer als 0 und höchstens 1 sein"};
 
-/// A number with comma or point as the text that the record keeps. Throws Eingabefehler.
-std::string Zahltext(const std::string& option, std::string text, const Bereich& bereich) {
-  const std::string eingabe = text.size() > 40 ? text.substr(0, 37) + "..." : text;
-  if (text.starts_with('+')) text.erase(0, 1);
-  const std::size_t komma = text.find(',');
-  if (komma != std::string::npos) text[komma] = '.';
-  const std::string_view ziffern = std::string_view(text).substr(text.starts_with('-') ? 1 : 0);
-  const bool beginnt =
-      !ziffern.empty() && std::string_view("0123456789.").find(ziffern[0]) != std::string::npos;
-  double wert = 0;
-  const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), wert);
-  if (!beginnt || fehler == std::errc::invalid_argument || ende != text.data() + text.size()) {
-    throw Eingabefehler("--" + option + ": „" + eingabe + "“ ist keine Zahl.");
-  }
+/// The texts of the record that are numbers.
+struct Zahloption {
+  QStringView name;
+  Bereich bereich;
+  std::string Rechenwerte::*ziel;
+};
+
+constexpr Zahloption Zahloptionen[] = {
+    {u"qrg", GroesserNull, &Rechenwerte::QRGText},
+    {u"pwr", GroesserNull, &Rechenwerte::PWRText},
+    {u"abstand", GroesserNull, &Rechenwerte::PWRText},
+    {u"gewinn", HoechstensHundert, &Rechenwerte::GewinnText},
+    {u"daempfung", NichtNegativ, &Rechenwerte::DaempfungText},
+    {u"winkel", NichtNegativ, &Rechenwerte::WinkelDaempfungText},
+};
+
+/// A number as it can be typed in a window, with a point for its comma. Throws Eingabefehler.
+std::string Zahltext(QStringView option, QString text, const Bereich& bereich) {
+  static const QRegularExpression muster(QRegularExpression::anchoredPattern(uR"(-?(\d+[.,]?\d*|[.,]\d+))"));
+  const auto pruefen = [&, eingabe = text.size() > 40 ? text.left(37) + u"..."_s : text](bool gut,
+                                                                                         QStringView sonst) {
+    if (!gut) throw Eingabefehler(u"--%1: „%2“ %3."_s.arg(option, eingabe, sonst));
+  };
+  pruefen(muster.match(text).hasMatch(), u"ist keine Zahl");
+  std::string ergebnis = text.replace(u',', u'.').toStdString();
+  float wert = Endlos;
   try {
-    wert = Zahl(text);
+    wert = Zahl(ergebnis);
   } catch (const Laufzeitfehler&) {
-    throw Eingabefehler("--" + option + ": „" + eingabe + "“ ist zu groß.");
+    pruefen(false, u"ist zu groß");
   }
-  if (wert < bereich.von || wert > bereich.bis || (bereich.ueberNull && wert <= 0)) {
-    throw Eingabefehler("--" + option + ": „" + eingabe + "“ " + bereich.text + ".");
-  }
-  return text;
-}
-
-std::int16_t Grenzwerttyp(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), [](unsigned char z) { return std::toupper(z); });
-  if (text == "AM") return GrenzwertAM;
-  if (text == "TV") return GrenzwertTV;
-  if (text == "GSM") return GrenzwertGSM;
-  throw Eingabefehler("--typ: nur AM, TV oder GSM ist möglich.");
-}
-
-void Eintragen(int kennung, const std::string& text, Rechenauftrag& auftrag) {
-  Rechenwerte& werte = auftrag.werte;
-  switch (kennung) {
-    case QRG:
-      werte.QRGText = Zahltext("qrg", text, GroesserNull);
-      return;
-    case PWR:
-    case Abstand:
-      if (!werte.PWRText.empty())
-        throw Eingabefehler("--pwr und --abstand schließen einander aus und dürfen nur einmal stehen.");
-      werte.PWRText = Zahltext(kennung == PWR ? "pwr" : "abstand", text, GroesserNull);
-      auftrag.art.modus = kennung == PWR ? Modus::Abstand : Modus::Leistung;
-      return;
-    case Gewinn:
-      werte.GewinnText = Zahltext("gewinn", text, HoechstensHundert);
-      return;
-    case Daempfung:
-      werte.DaempfungText = Zahltext("daempfung", text, NichtNegativ);
-      return;
-    case Winkel:
-      werte.WinkelDaempfungText = Zahltext("winkel", text, NichtNegativ);
-      return;
-    case Faktorwert:
-      werte.Modulationsfaktor = Zahl(Zahltext("faktor", text, BisEins));
-      return;
-    case Typ:
-      werte.Grenzwerttyp = Grenzwerttyp(text);
-      return;
-    case Exakt:
-      auftrag.art.afu = false;
-      return;
-    case Json:
-      auftrag.json = true;
-      return;
-    default:
-      auftrag.hilfe = true;
-  }
+  pruefen(wert >= bereich.von && wert <= bereich.bis && (wert > 0 || !bereich.ueberNull), bereich.text);
+  return ergebnis;
 }
 
 }  // namespace
 
-Rechenauftrag RechenauftragLesen(std::span<const std::string> argumente) {
-  std::vector<std::string> kopie(argumente.begin(), argumente.end());
-  std::string name = "rechnen";
-  std::vector<char*> zeiger = {name.data()};
-  for (std::string& argument : kopie) zeiger.push_back(argument.data());
-  zeiger.push_back(nullptr);
-  const int anzahl = static_cast<int>(zeiger.size()) - 1;
+void OptionenLesen(QCommandLineParser& leser, const QStringList& mitWert, const QStringList& ohneWert,
+                   const QStringList& argumente) {
+  QList<QCommandLineOption> optionen = {QCommandLineOption(QStringList{u"h"_s, u"help"_s})};
+  for (const QString& name : ohneWert) optionen.emplaceBack(name);
+  for (const QString& name : mitWert) optionen.emplaceBack(name, QString(), u"WERT"_s);
+  leser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+  leser.addOptions(optionen);
+
+  const bool gelesen = leser.parse(QStringList(u"vesk"_s) + argumente);
+  const QStringList unbekannt = leser.unknownOptionNames();
+  if (!unbekannt.isEmpty()) throw Eingabefehler(u"Unbekannte Option: --"_s + unbekannt.front());
+  const QStringList gegeben = leser.optionNames();
+  for (const QCommandLineOption& option : optionen) {
+    const QStringList namen = option.names();
+    const auto anzahl = std::count_if(gegeben.begin(), gegeben.end(),
+                                      [&](const QString& name) { return namen.contains(name); });
+    if (anzahl > 1) throw Eingabefehler(u"Die Option --%1 darf nur einmal stehen."_s.arg(namen.back()));
+    if (anzahl > 0 && !option.valueName().isEmpty() && leser.value(option).isEmpty()) {
+      throw Eingabefehler(u"Der Option --%1 fehlt ihr Wert."_s.arg(namen.back()));
+    }
+  }
+  if (!gelesen) throw Eingabefehler(u"Nur diese Optionen haben einen Wert: --"_s + mitWert.join(u", --"));
+  const QStringList rest = leser.positionalArguments();
+  if (!rest.isEmpty()) throw Eingabefehler(u"Unerwartete Angabe: "_s + rest.front());
+}
+
+Rechenauftrag RechenauftragLesen(const QStringList& argumente) {
+  QStringList mitWert = {u"faktor"_s, u"typ"_s};
+  for (const Zahloption& option : Zahloptionen) mitWert.append(option.name.toString());
+  QCommandLineParser leser;
+  OptionenLesen(leser, mitWert, {u"exakt"_s, u"json"_s}, argumente);
+  const bool abstand = leser.isSet(u"abstand"_s);
 
   Rechenauftrag auftrag;
-  optind = 0;  // starts a fresh scan
-  while (true) {
-    const int kennung = getopt_long(anzahl, zeiger.data(), ":h", Optionen.data(), nullptr);
-    if (kennung == -1) break;
-    const std::string argument = optind > 0 ? zeiger[static_cast<std::size_t>(optind) - 1] : "";
-    if (kennung == '?') throw Eingabefehler("Unbekannte Option: " + argument);
-    if (kennung == ':') throw Eingabefehler("Der Option " + argument + " fehlt ihr Wert.");
-    Eintragen(kennung, optarg != nullptr ? optarg : "", auftrag);
-  }
-  if (optind < anzahl) {
-    throw Eingabefehler(std::string("Unerwartete Angabe: ") + zeiger[static_cast<std::size_t>(optind)]);
-  }
+  auftrag.hilfe = leser.isSet(u"help"_s);
+  auftrag.json = leser.isSet(u"json"_s);
+  auftrag.art.afu = !leser.isSet(u"exakt"_s);
+  auftrag.art.modus = abstand ? Modus::Leistung : Modus::Abstand;
   if (auftrag.hilfe) return auftrag;
-  if (auftrag.werte.QRGText.empty()) throw Eingabefehler("Die Frequenz fehlt (--qrg).");
+  if (abstand && leser.isSet(u"pwr"_s)) {
+    throw Eingabefehler(u"--pwr und --abstand schließen einander aus."_s);
+  }
+  for (const auto& [name, bereich, ziel] : Zahloptionen) {
+    const QString option = name.toString();
+    if (leser.isSet(option)) auftrag.werte.*ziel = Zahltext(option, leser.value(option), bereich);
+  }
+  if (leser.isSet(u"faktor"_s)) {
+    auftrag.werte.Modulationsfaktor = Zahl(Zahltext(u"faktor", leser.value(u"faktor"_s), BisEins));
+  }
+  if (leser.isSet(u"typ"_s)) {
+    const auto typ = QStringList{u"AM"_s, u"TV"_s, u"GSM"_s}.indexOf(leser.value(u"typ"_s).toUpper());
+    if (typ < 0) throw Eingabefehler(u"--typ: nur AM, TV oder GSM ist möglich."_s);
+    auftrag.werte.Grenzwerttyp = static_cast<std::int16_t>(typ);
+  }
+  if (auftrag.werte.QRGText.empty()) throw Eingabefehler(u"Die Frequenz fehlt (--qrg)."_s);
   if (auftrag.werte.PWRText.empty()) {
-    throw Eingabefehler("Die Sendeleistung (--pwr) oder der Sicherheitsabstand (--abstand) fehlt.");
+    throw Eingabefehler(u"Die Sendeleistung (--pwr) oder der Sicherheitsabstand (--abstand) fehlt."_s);
   }
   return auftrag;
 }

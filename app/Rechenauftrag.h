@@ -1,9 +1,10 @@
 #pragma once
-#include <span>
+#include <QStringList>
 #include <stdexcept>
-#include <string>
 
-#include "Berechnung.h"
+#include "engine/Berechnung.h"
+
+class QCommandLineParser;
 
 namespace vesk {
 
@@ -18,10 +19,15 @@ struct Rechenauftrag {
 /// Wrong or missing input of the command line; what() is the German message.
 class Eingabefehler : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit Eingabefehler(const QString& text) : std::runtime_error(text.toStdString()) {}
 };
 
+/// Reads options with and without a value, and --help: each at most once, and nothing beside them. Throws
+/// Eingabefehler.
+void OptionenLesen(QCommandLineParser& leser, const QStringList& mitWert, const QStringList& ohneWert,
+                   const QStringList& argumente);
+
 /// Reads the arguments after "rechnen". Throws Eingabefehler.
-Rechenauftrag RechenauftragLesen(std::span<const std::string> argumente);
+Rechenauftrag RechenauftragLesen(const QStringList& argumente);
 
 }  // namespace vesk

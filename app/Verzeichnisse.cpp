@@ -1,4 +1,4 @@
-#include "Verzeichnisse.h"
+#include "app/Verzeichnisse.h"
 
 #include <QDir>
 #include <QFile>
@@ -6,7 +6,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include "Plattform.h"
+#include "platform/Plattform.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,10 +47,11 @@ void MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher&
   for (const QString& name : {u"Kabel.txt"_s, u"Antennen.txt"_s, u"TIPOFDAY.TXT"_s}) {
     if (speicher.Lesen(name, schluessel)) continue;
     const QString ziel = verzeichnisse.programm + u'/' + name;
-    const bool da = QFileInfo::exists(ziel) || QFile::copy(verzeichnisse.daten + u'/' + name, ziel);
-    if (!da) continue;
-    // What is copied from a read-only place must stay editable.
-    QFile::setPermissions(ziel, QFile::permissions(ziel) | QFile::WriteOwner);
+    if (!QFileInfo::exists(ziel)) {
+      if (!QFile::copy(verzeichnisse.daten + u'/' + name, ziel)) continue;
+      // What is copied from a read-only place must stay editable.
+      QFile::setPermissions(ziel, QFile::permissions(ziel) | QFile::WriteOwner);
+    }
     speicher.Schreiben(name, schluessel, u"1"_s);
   }
 }

@@ -1,77 +1,32 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QTimer>
 #include <QTranslator>
-#include <algorithm>
-#include <array>
 #include <csignal>
 #include <iostream>
-#include <string>
-#include <string_view>
-#include <vector>
 
-#include "Dezimaltrenner.h"
-#include "Endesignal.h"
-#include "Hilfesystem.h"
-#include "Kommandozeile.h"
-#include "Programm.h"
-#include "Programmbild.h"
-#include "QtDokumentdrucker.h"
-#include "QtPlattform.h"
-#include "Version.h"
-#include "Verzeichnisse.h"
+#include "app/Kommandozeile.h"
+#include "app/Programm.h"
+#include "app/Verzeichnisse.h"
+#include "engine/Version.h"
+#include "platform/Endesignal.h"
+#include "platform/QtDokumentdrucker.h"
+#include "platform/QtPlattform.h"
+#include "ui/basis/Dezimaltrenner.h"
+#include "ui/basis/Programmbild.h"
+#include "ui/info/Hilfesystem.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Startoptionen {
-  bool hilfe = false;
-  bool version = false;
-  bool plattform = false;  ///< the toolkit was told where to show its windows
-  QString verzeichnis;
-  std::string fehler;
-};
-
-/// Options that the toolkit reads itself; each has a value.
-constexpr std::array<std::string_view, 5> Toolkitoptionen = {"-platform", "-display", "-style", "-geometry",
-                                                             "-name"};
-
-Startoptionen Lesen(const std::vector<std::string>& argumente) {
-  Startoptionen optionen;
-  for (std::size_t i = 0; i < argumente.size(); ++i) {
-    const std::string& argument = argumente[i];
-    if (argument == "--help" || argument == "-h") {
-      optionen.hilfe = true;
-    } else if (argument == "--version") {
-      optionen.version = true;
-    } else if (argument == "--verzeichnis" && i + 1 < argumente.size()) {
-      optionen.verzeichnis = QString::fromStdString(argumente[++i]);
-    } else if (argument.starts_with("--verzeichnis=")) {
-      optionen.verzeichnis = QString::fromStdString(argument.substr(argument.find('=') + 1));
-    } else if (std::find(Toolkitoptionen.begin(), Toolkitoptionen.end(), argument) != Toolkitoptionen.end()) {
-      optionen.plattform = optionen.plattform || argument == "-platform" || argument == "-display";
-      ++i;
-    } else if (argument == "--verzeichnis") {
-      optionen.fehler = "Der Option --verzeichnis fehlt ihr Wert.";
-    } else {
-      optionen.fehler = "Unbekannte Angabe: " + argument;
-    }
-  }
-  return optionen;
-}
-
-int Fehlaufruf(const std::string& text) {
-  std::cerr << "vesk: " << text << "\nMehr dazu: vesk --help\n";
-  return 2;
-}
 
 bool OhneBildschirm() {
   return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
          qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-int FensterOeffnen(int anzahl, char** argumente, const Startoptionen& optionen) {
+int FensterOeffnen(int anzahl, char** argumente, const QString& verzeichnis) {
   // A limit on the size of files must let a save fail, not end the program with the data in it.
   std::signal(SIGXFSZ, SIG_IGN);
   vesk::Endesignal ende;
@@ -93,42 +48,33 @@ int FensterOeffnen(int anzahl, char** argumente, const Startoptionen& optionen) 
   vesk::QtSignalton ton;
   vesk::QtDokumentdrucker drucker;
   const vesk::Verzeichnisse verzeichnisse =
-      vesk::VerzeichnisseBestimmen(optionen.verzeichnis, QApplication::applicationDirPath());
+      vesk::VerzeichnisseBestimmen(verzeichnis, QApplication::applicationDirPath());
   vesk::MitgelieferteKopieren(verzeichnisse, speicher);
-  vesk::Zustand zustand;
-  vesk::Hilfesystem hilfe(verzeichnisse.daten + "/hilfe"_L1, boxen, zustand.werte, drucker);
+  vesk::Station station;
+  vesk::Hilfesystem hilfe(verzeichnisse.daten + "/hilfe"_L1, boxen, drucker);
   vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
-  vesk::Programm programm(zustand, plattform, verzeichnisse);
+  vesk::Programm programm(station, plattform, verzeichnisse);
   // exit, not quit: quit would close the windows, and closing the options window means something.
   QObject::connect(
       &programm, &vesk::Programm::beendet, qApp, [] { QApplication::exit(0); }, Qt::QueuedConnection);
   QObject::connect(&ende, &vesk::Endesignal::verlangt, &programm, &vesk::Programm::Beenden);
   ende.Lauschen();
-  programm.Starten();
+  // In the event loop, so that a box of the start can be ended by a signal, too.
+  QTimer::singleShot(0, &programm, &vesk::Programm::Starten);
   return QApplication::exec();
 }
 
 }  // namespace
 
 int main(int anzahl, char** argumente) {
-  const std::vector<std::string> texte(argumente + 1, argumente + anzahl);
-  if (!texte.empty() && texte.front() == "rechnen") {
-    const char trenner = vesk::Dezimaltrenner(QLocale::system());
-    return vesk::Rechnen(std::span(texte).subspan(1), trenner, std::cout, std::cerr);
-  }
-  const Startoptionen optionen = Lesen(texte);
-  if (optionen.hilfe) {
-    std::cout << vesk::Hilfetext();
-    return 0;
-  }
-  if (optionen.version) {
-    std::cout << vesk::Produktname << ' ' << vesk::VersionLang() << '\n';
-    return 0;
-  }
-  if (!optionen.fehler.empty()) return Fehlaufruf(optionen.fehler);
-  if (OhneBildschirm() && !optionen.plattform) {
+  QStringList texte;
+  for (int i = 1; i < anzahl; ++i) texte.append(QString::fromLocal8Bit(argumente[i]));
+  const char trenner = vesk::Dezimaltrenner(QLocale::system());
+  const vesk::Aufruf aufruf = vesk::KommandozeileAusfuehren(texte, trenner, std::cout, std::cerr);
+  if (aufruf.rueckgabe) return *aufruf.rueckgabe;
+  if (OhneBildschirm()) {
     std::cerr << "vesk: Es ist kein Bildschirm da. Im Terminal rechnet: vesk rechnen --help\n";
     return 1;
   }
-  return FensterOeffnen(anzahl, argumente, optionen);
+  return FensterOeffnen(anzahl, argumente, aufruf.verzeichnis);
 }

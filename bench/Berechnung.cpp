@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "Ausgabe.h"
-#include "Grenzwert.h"
+#include "engine/Ausgabe.h"
+#include "engine/Grenzwert.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ constexpr Stationswerte Station{750, 10.15F, 1.8F, 0.85F, 0.5F};
 /// DIN VDE 0848 has its three candidates.
 void NurZahlen(benchmark::State& lauf) {
   float qrg = 7.05F;
-  for (auto _ : lauf) {
+  for ([[maybe_unused]] auto _ : lauf) {
     benchmark::DoNotOptimize(qrg);
     Rechenergebnis ergebnis;
     ergebnis.grenzwerte = GrenzwerteBestimmen(qrg, true, GrenzwertAM);
@@ -44,7 +44,7 @@ void BareMathematik(benchmark::State& lauf) {
   double f = 7.1;
   double leistung = 750;
   double faktor = 0.5;
-  for (auto _ : lauf) {
+  for ([[maybe_unused]] auto _ : lauf) {
     benchmark::DoNotOptimize(f);
     benchmark::DoNotOptimize(leistung);
     benchmark::DoNotOptimize(faktor);
@@ -64,7 +64,7 @@ BENCHMARK(BareMathematik);
 
 void TexteZuTexten(benchmark::State& lauf) {
   Rechenwerte werte = Beispiel();
-  for (auto _ : lauf) {
+  for ([[maybe_unused]] auto _ : lauf) {
     benchmark::DoNotOptimize(werte);
     const Feldtexte texte = Ausgabetexte(Berechnen(werte, {}), ',');
     benchmark::DoNotOptimize(texte);
@@ -75,7 +75,7 @@ BENCHMARK(TexteZuTexten);
 /// The worst branch of each limit.
 void GrenzwertWurzel(benchmark::State& lauf) {
   float f = 7.1F;
-  for (auto _ : lauf) {
+  for ([[maybe_unused]] auto _ : lauf) {
     benchmark::DoNotOptimize(f);
     benchmark::DoNotOptimize(Grenzwert(f, f));
   }
@@ -84,7 +84,7 @@ BENCHMARK(GrenzwertWurzel);
 
 void HSM306LetzterAbschnitt(benchmark::State& lauf) {
   float f = 49.0F;
-  for (auto _ : lauf) {
+  for ([[maybe_unused]] auto _ : lauf) {
     benchmark::DoNotOptimize(f);
     benchmark::DoNotOptimize(HSM306(f));
   }
@@ -93,7 +93,7 @@ BENCHMARK(HSM306LetzterAbschnitt);
 
 void HSMvdeZweiPotenzen(benchmark::State& lauf) {
   float f = lauf.range(0) == GrenzwertAM ? 6.9F : lauf.range(0) == GrenzwertTV ? 210.0F : 2400.0F;
-  for (auto _ : lauf) {
+  for ([[maybe_unused]] auto _ : lauf) {
     benchmark::DoNotOptimize(f);
     benchmark::DoNotOptimize(HSMvde(f, static_cast<std::int16_t>(lauf.range(0))));
   }

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "Antennenkatalog.h"
-#include "Kabelkatalog.h"
+#include "persistence/Antennendatei.h"
+#include "persistence/Kabeldatei.h"
 
 namespace {
 

@@ -1,25 +1,25 @@
-#include "UserDatei.h"
+#include "persistence/UserDatei.h"
 
 #include <benchmark/benchmark.h>
 
 #include "../tests/persistence/Muster.h"
-#include "Dateien.h"
+#include "persistence/Dateien.h"
 
 namespace vesk {
 namespace {
 
-// A full file: 84 cells, seven records. Aim: below 100 µs each.
+// A full file: 84 cells, seven records.
 
 void VolleDateiLesen(benchmark::State& lauf) {
-  const std::string bytes = UserDateiSchreiben(Musterstand());
-  Zustand stand;
+  const std::string bytes = UserDateiSchreiben(Musterstation());
+  Station stand;
   for ([[maybe_unused]] auto _ : lauf) benchmark::DoNotOptimize(UserDateiLesen(bytes, stand));
   lauf.SetBytesProcessed(static_cast<std::int64_t>(lauf.iterations() * bytes.size()));
 }
 BENCHMARK(VolleDateiLesen);
 
 void VolleDateiSchreiben(benchmark::State& lauf) {
-  Zustand stand = Musterstand();
+  Station stand = Musterstation();
   for ([[maybe_unused]] auto _ : lauf) {
     FaktorenNormalisieren(stand);
     benchmark::DoNotOptimize(UserDateiSchreiben(stand));
@@ -31,7 +31,7 @@ BENCHMARK(VolleDateiSchreiben);
 void RiesigeDatei(benchmark::State& lauf, std::string_view muster) {
   std::string bytes;
   while (bytes.size() < MaxDateigroesse) bytes += muster;
-  Zustand stand;
+  Station stand;
   for ([[maybe_unused]] auto _ : lauf) benchmark::DoNotOptimize(UserDateiLesen(bytes, stand));
 }
 BENCHMARK_CAPTURE(RiesigeDatei, Kommas, ",")->Unit(benchmark::kMillisecond);

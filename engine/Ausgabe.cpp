@@ -1,6 +1,6 @@
-#include "Ausgabe.h"
+#include "engine/Ausgabe.h"
 
-#include "Zahlen.h"
+#include "engine/Zahlen.h"
 
 namespace vesk {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "Berechnung.h"
+#include "engine/Berechnung.h"
 
 namespace vesk {
 

@@ -1,9 +1,9 @@
-#include "Berechnung.h"
+#include "engine/Berechnung.h"
 
 #include <cmath>
 
-#include "Grenzwert.h"
-#include "Zahlen.h"
+#include "engine/Grenzwert.h"
+#include "engine/Zahlen.h"
 
 namespace vesk {
 
@@ -11,7 +11,6 @@ namespace {
 
 constexpr double Lichtgeschwindigkeit = 299.7925;  // m * MHz
 constexpr double NahfeldJeLambda = 1 / (2 * 3.141592654);
-constexpr double Wurzel30 = 5.477;  // from d = sqrt(30 * EIRP) / E
 
 double HochZehn(double exponent) {
   return std::pow(10.0, exponent);
@@ -46,7 +45,9 @@ void LeistungenBestimmen(const Stationswerte& s, Rechenergebnis& e) {
   e.ohneHSM = leistung(s.PWR / Wurzel(s.Faktor), g.ohneHSM);
   e.HSM306 = leistung(s.PWR, g.hsm306.Grenzwert);
   e.HSMvde = leistung(s.PWR, g.hsmVDE.Grenzwert);
-  e.WEIRP = AlsSingle(HochZehn((10 * Log10(*e.ohneHSM) + s.Gewinn - s.Daempfung) * 0.1));
+  const double pegel = 10 * Log10(*e.ohneHSM);
+  e.WEIRP = AlsSingle(HochZehn((pegel + s.Gewinn - s.Daempfung) * 0.1));
+  e.AntEinPWR = AlsSingle(HochZehn((pegel - s.Daempfung) * 0.1));
 }
 
 int Nahfeldflags(const Rechenergebnis& e, const Stationswerte& s) {

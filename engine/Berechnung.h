@@ -1,10 +1,10 @@
 #pragma once
 #include <optional>
 
-#include "Bandlogik.h"
-#include "HSM.h"
-#include "Laufzeitfehler.h"
-#include "Rechenwerte.h"
+#include "engine/Bandlogik.h"
+#include "engine/HSM.h"
+#include "engine/Laufzeitfehler.h"
+#include "engine/Rechenwerte.h"
 
 namespace vesk {
 
@@ -19,6 +19,9 @@ struct Rechenart {
   bool afu = true;       ///< least favourable frequency of the amateur band
   bool ausgeben = true;  ///< false: only the limits are brought up to date
 };
+
+/// The root of 30 in d = sqrt(30 * EIRP) / E (m, W, V/m), at the four digits that all figures rest on.
+inline constexpr double Wurzel30 = 5.477;
 
 /// Numbers that enter a calculation beside frequency and signal type.
 struct Stationswerte {
@@ -43,6 +46,8 @@ struct Grenzwerte {
   float Lambda = 0;    ///< m
   float Nahfeld = 0;   ///< end of the reactive near field, m
   float Fernfeld = 0;  ///< begin of the far field, m
+
+  bool operator==(const Grenzwerte&) const = default;
 };
 
 /// One calculation. What has no value was not reached (a fault) or does not belong to the mode.
@@ -51,7 +56,7 @@ struct Rechenergebnis {
   bool begonnen = false;  ///< frequency and power (or distance) were greater than 0
   Grenzwerte grenzwerte;
   std::optional<float> EIRP;       ///< W, without angle attenuation; distance mode
-  std::optional<float> AntEinPWR;  ///< power at the antenna input, W; distance mode
+  std::optional<float> AntEinPWR;  ///< power at the antenna input, W; in power mode of the power ohneHSM
   std::optional<float> WEIRP;    ///< W: with angle attenuation; in power mode belonging to the power ohneHSM
   std::optional<float> ohneHSM;  ///< distance in m, in power mode the largest power in W
   std::optional<float> HSM306;
@@ -59,6 +64,8 @@ struct Rechenergebnis {
   bool vollstaendig = false;  ///< near-field flags are set
   int Nahfeldflags = 0;
   std::optional<Fehlerart> fehler;
+
+  bool operator==(const Rechenergebnis&) const = default;
 };
 
 /// Frequencies and limits at the entered frequency (MHz).

@@ -1,4 +1,4 @@
-#include "Grenzwert.h"
+#include "engine/Grenzwert.h"
 
 #include <cmath>
 

@@ -10,6 +10,8 @@ struct HSM306Werte {
   float Uss = 0;          ///< interference threshold, V
   float Spitzenfeld = 0;  ///< peak field strength, V/m
   float Grenzwert = 0;    ///< effective field strength, V/m
+
+  bool operator==(const HSM306Werte&) const = default;
 };
 
 /// Pacemaker limit after DIN VDE 0848 Teil 3-1 (draft of 11.11.98).
@@ -20,6 +22,8 @@ struct HSMvdeWerte {
   /// Candidate peak field strengths in units of 0.00001 V/m, ascending; the limit is the first one / sqrt(2).
   std::array<std::int64_t, 3> Kandidaten{};
   int Anzahl = 0;
+
+  bool operator==(const HSMvdeWerte&) const = default;
 };
 
 /// f in MHz.

@@ -2,8 +2,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "HSM.h"
-#include "Laufzeitfehler.h"
+#include "engine/HSM.h"
+#include "engine/Laufzeitfehler.h"
 
 namespace vesk {
 

@@ -4,9 +4,9 @@
 #include <numbers>
 #include <span>
 
-#include "HSM.h"
-#include "Laufzeitfehler.h"
-#include "Rechenwerte.h"
+#include "engine/HSM.h"
+#include "engine/Laufzeitfehler.h"
+#include "engine/Rechenwerte.h"
 
 namespace vesk {
 

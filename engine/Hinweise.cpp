@@ -1,4 +1,4 @@
-#include "Hinweise.h"
+#include "engine/Hinweise.h"
 
 #include <array>
 
@@ -20,6 +20,10 @@ constexpr std::array<const char*, 8> Nahfeldtexte = {
 };
 
 }  // namespace
+
+Hinweis Bestaetigung(const std::string& titel, const std::string& text) {
+  return {titel, text, Knoepfe::JaNein, Symbol::Frage, Antwort::Nein};
+}
 
 Hinweis Fehlermeldung(const std::string& text, const std::string& titel) {
   return {titel.empty() ? "Vesk - Fehlermeldung" : titel, text};
@@ -59,7 +63,7 @@ Hinweis NahfeldHinweis(int flags, Modus modus) {
       "\nkleiner ist als die Nahfeldgrenze. "
       "\nSiehe auch: Hilfehandbuch Nahfeldsituation Aufklärung."
       "\n\n";
-  return {"Nahfeld Problematik", text + WiederAnzeigen, true};
+  return {"Nahfeld Problematik", text + WiederAnzeigen, Knoepfe::JaNein};
 }
 
 Hinweis HSMHinweis() {
@@ -84,7 +88,31 @@ Hinweis HSMHinweis() {
       "Interessehalber kann jedoch manuell auch für einen \n"
       "anderen Grenzwerttyp (AM, TV, GSM) gerechnet werden\n"
       "\n";
-  return {"DIN VDE 0848 Teil 3-1", text + WiederAnzeigen, true};
+  return {"DIN VDE 0848 Teil 3-1", text + WiederAnzeigen, Knoepfe::JaNein};
+}
+
+std::vector<Hinweisart> FaelligeHinweise(const Rechenergebnis& e) {
+  std::vector<Hinweisart> arten;
+  if (!e.begonnen) return arten;
+  if (e.grenzwerte.ausserhalb) arten.push_back(Hinweisart::Bereich);
+  if (e.grenzwerte.hsmVDE.ausserhalb) arten.push_back(Hinweisart::HSMBereich);
+  if (e.vollstaendig && e.Nahfeldflags != 0) arten.push_back(Hinweisart::Nahfeld);
+  if (e.vollstaendig && e.grenzwerte.hsmVDE.Uss == 0) arten.push_back(Hinweisart::HSM);
+  return arten;
+}
+
+Hinweis HinweisZu(Hinweisart art, const Rechenergebnis& e) {
+  switch (art) {
+    case Hinweisart::Bereich:
+      return BereichsHinweis();
+    case Hinweisart::HSMBereich:
+      return HSMBereichsHinweis();
+    case Hinweisart::Nahfeld:
+      return NahfeldHinweis(e.Nahfeldflags, e.modus);
+    case Hinweisart::HSM:
+      break;
+  }
+  return HSMHinweis();
 }
 
 }  // namespace vesk

@@ -1,16 +1,26 @@
 #pragma once
 #include <string>
+#include <vector>
 
-#include "Berechnung.h"
+#include "engine/Berechnung.h"
 
 namespace vesk {
 
-/// Text of a message box (UTF-8). A question has the buttons Ja and Nein, any other box OK.
+enum class Antwort : std::int16_t { OK = 1, Ja = 6, Nein = 7 };
+enum class Knoepfe { OK, JaNein };
+enum class Symbol { Ausrufezeichen, Frage };
+
+/// A message box (UTF-8). One with Ja and Nein can only be left by a button.
 struct Hinweis {
   std::string titel;
   std::string text;
-  bool frage = false;
+  Knoepfe knoepfe = Knoepfe::OK;
+  Symbol symbol = Symbol::Ausrufezeichen;
+  Antwort vorgabe = Antwort::Ja;  ///< default button of Ja and Nein
 };
+
+/// "… wirklich löschen?" and its like: Nein is the default.
+Hinweis Bestaetigung(const std::string& titel, const std::string& text);
 
 /// The common error box. An empty title becomes "Vesk - Fehlermeldung".
 Hinweis Fehlermeldung(const std::string& text, const std::string& titel = {});
@@ -26,5 +36,10 @@ Hinweis EingabeHinweis();
 Hinweis NahfeldHinweis(int flags, Modus modus);
 /// No interference threshold defined at the frequency.
 Hinweis HSMHinweis();
+
+enum class Hinweisart { Bereich, HSMBereich, Nahfeld, HSM };
+/// What a calculation has to say beside its fault, in this order.
+std::vector<Hinweisart> FaelligeHinweise(const Rechenergebnis& ergebnis);
+Hinweis HinweisZu(Hinweisart art, const Rechenergebnis& ergebnis);
 
 }  // namespace vesk

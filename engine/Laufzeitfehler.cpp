@@ -1,4 +1,4 @@
-#include "Laufzeitfehler.h"
+#include "engine/Laufzeitfehler.h"
 
 #include <cmath>
 

@@ -35,13 +35,10 @@ struct Rechenwerte {
   float Uss306 = 0;
   float UssVDE = 0;
 
-  bool MinusErlaubt = false;    ///< the key filter lets the next minus sign pass
-  bool EnterGedrueckt = false;  ///< the key filter has just seen Enter
-  bool Pruefergebnis = false;   ///< of the last input check, cable or antenna look-up
-  std::int16_t Antwort = 0;     ///< code of the last message box: OK 1, Ja 6, Nein 7
-
   std::int16_t Spalte = 0;  ///< data-sheet column being calculated, 1 to 7; 0 is the main window
   std::int16_t LetzteSpalte = 0;
+
+  bool operator==(const Rechenwerte&) const = default;
 };
 
 /// One operating mode: its power factor as text and its abbreviation with a trailing blank.

@@ -1,4 +1,4 @@
-#include "Version.h"
+#include "engine/Version.h"
 
 namespace vesk {
 

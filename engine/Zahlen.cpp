@@ -1,4 +1,4 @@
-#include "Zahlen.h"
+#include "engine/Zahlen.h"
 
 #include <algorithm>
 #include <array>
@@ -7,40 +7,11 @@
 #include <limits>
 #include <numbers>
 
-#include "Laufzeitfehler.h"
+#include "engine/Laufzeitfehler.h"
 
 namespace vesk {
 
 namespace {
-
-bool IstZiffer(char zeichen) {
-  return zeichen >= '0' && zeichen <= '9';
-}
-
-/// Length of the numeric part at the head of `text` (digits, one point, whole exponent); 0 if there is none.
-std::size_t LaengeDerZahl(std::string_view text) {
-  std::size_t i = 0;
-  std::size_t ziffern = 0;
-  bool punkt = false;
-  for (; i < text.size(); ++i) {
-    if (IstZiffer(text[i])) {
-      ++ziffern;
-    } else if (text[i] == '.' && !punkt) {
-      punkt = true;
-    } else {
-      break;
-    }
-  }
-  if (ziffern == 0) return 0;
-  if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
-    std::size_t j = i + 1;
-    if (j < text.size() && (text[j] == '+' || text[j] == '-')) ++j;
-    const std::size_t exponent = j;
-    while (j < text.size() && IstZiffer(text[j])) ++j;
-    if (j > exponent) i = j;
-  }
-  return i;
-}
 
 /// Whether a number that no double can hold is too large rather than too small: the decimal position of its
 /// first digit that is not 0, plus the exponent. from_chars itself does not tell.
@@ -102,12 +73,14 @@ float Zahl(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
   const bool negativ = !text.empty() && text.front() == '-';
   if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
-  const std::string_view zahl = text.substr(0, LaengeDerZahl(text));
-  if (zahl.empty()) return 0;
+  // from_chars would also read "inf", "nan" and a second sign.
+  if (text.empty() || std::string_view("0123456789.").find(text.front()) == std::string_view::npos) return 0;
 
   double wert = 0;
-  const auto [ende, fehler] = std::from_chars(zahl.data(), zahl.data() + zahl.size(), wert);
-  if (fehler == std::errc::result_out_of_range && UeberEins(zahl)) throw Laufzeitfehler(Fehlerart::Ueberlauf);
+  const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), wert);
+  if (fehler == std::errc::result_out_of_range && UeberEins({text.data(), ende})) {
+    throw Laufzeitfehler(Fehlerart::Ueberlauf);
+  }
   const auto single = static_cast<float>(wert);
   if (!std::isfinite(single)) throw Laufzeitfehler(Fehlerart::Ueberlauf);
   return negativ ? -single : single;

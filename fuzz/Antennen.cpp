@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "Antennenkatalog.h"
+#include "persistence/Antennendatei.h"
 
 namespace {
 

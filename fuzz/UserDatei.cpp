@@ -1,4 +1,4 @@
-#include "UserDatei.h"
+#include "persistence/UserDatei.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -14,22 +14,22 @@ void Pruefen(bool gut) {
 }
 
 /// What was read once is written and read again without any further change.
-void Pruefen(vesk::Zustand gelesen) {
+void Pruefen(vesk::Station gelesen) {
   vesk::FaktorenNormalisieren(gelesen);
   const std::string geschrieben = UserDateiSchreiben(gelesen);
-  vesk::Zustand nochmals;
+  vesk::Station nochmals;
   const vesk::Lesebericht bericht = vesk::UserDateiLesen(geschrieben, nochmals);
   Pruefen(GleicherInhalt(gelesen, nochmals));
-  Pruefen(bericht.version == vesk::Dateiversion::Aktuell && bericht.verlustfrei && bericht.etwasGelesen);
+  Pruefen(bericht.version == vesk::Dateiversion::Aktuell && bericht.verlustfrei && !bericht.abgebrochen);
   Pruefen(UserDateiSchreiben(nochmals) == geschrieben);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
-  // What the file does not say stays: half of the files meet a state that is full already.
-  vesk::Zustand zustand = laenge % 2 == 0 ? vesk::Zustand() : vesk::Musterstand();
-  vesk::UserDateiLesen({reinterpret_cast<const char*>(daten), laenge}, zustand);
-  Pruefen(std::move(zustand));
+  // What the file does not say stays: half of the files meet a station that is full already.
+  vesk::Station station = laenge % 2 == 0 ? vesk::Station() : vesk::Musterstation();
+  vesk::UserDateiLesen({reinterpret_cast<const char*>(daten), laenge}, station);
+  Pruefen(std::move(station));
   return 0;
 }

@@ -3,9 +3,9 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "Sektoren.h"
-#include "Windows1252.h"
-#include "Winkeldatei.h"
+#include "persistence/Winkeldatei.h"
+#include "station/Sektoren.h"
+#include "station/Text.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
   const auto gelesen = vesk::WinkelLesen({reinterpret_cast<const char*>(daten), laenge});

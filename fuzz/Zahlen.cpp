@@ -1,4 +1,4 @@
-#include "Zahlen.h"
+#include "engine/Zahlen.h"
 
 #include <cmath>
 #include <cstddef>
@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "Laufzeitfehler.h"
+#include "engine/Laufzeitfehler.h"
 
 namespace {
 

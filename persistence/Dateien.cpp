@@ -1,4 +1,4 @@
-#include "Dateien.h"
+#include "persistence/Dateien.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "Neufassung.h"
+#include "persistence/Neufassung.h"
 
 namespace vesk {
 

@@ -1,4 +1,4 @@
-#include "Dateistand.h"
+#include "persistence/Dateistand.h"
 
 #include <fcntl.h>
 

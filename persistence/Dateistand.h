@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "Dateien.h"
-#include "Neufassung.h"
+#include "persistence/Dateien.h"
+#include "persistence/Neufassung.h"
 
 namespace vesk {
 

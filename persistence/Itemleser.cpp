@@ -1,6 +1,7 @@
-#include "Itemleser.h"
+#include "persistence/Itemleser.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace vesk {
 
@@ -21,6 +22,19 @@ std::size_t Trennstelle(std::string_view text, std::size_t ab) {
 
 std::string_view OhneLeerzeichenAmEnde(std::string_view text, std::string_view zeichen) {
   return text.substr(0, text.find_last_not_of(zeichen) + 1);
+}
+
+bool GleichBuchstaben(std::string_view item, std::string_view gross) {
+  const auto gleich = [](char a, char b) { return a == b || (a >= 'a' && a <= 'z' && a - 'a' + 'A' == b); };
+  return std::equal(item.begin(), item.end(), gross.begin(), gross.end(), gleich);
+}
+
+template <typename Zahl>
+std::optional<Zahl> GanzeZahl(std::string_view item) {
+  Zahl wert = 0;
+  const auto [ende, fehler] = std::from_chars(item.data(), item.data() + item.size(), wert);
+  if (fehler != std::errc() || ende != item.data() + item.size()) return std::nullopt;
+  return wert;
 }
 
 /// Whether nothing but blanks stands between `ab` and the next separator or the end.
@@ -61,6 +75,17 @@ std::string_view Itemleser::Gequotetes() {
 
 void Itemleser::BisNachTrenner(std::size_t ab) {
   rest_.remove_prefix(std::min(Trennstelle(rest_, ab) + 1, rest_.size()));
+}
+
+std::optional<bool> AlsWahrheitswert(std::string_view item) {
+  if (GleichBuchstaben(item, "#TRUE#")) return true;
+  if (GleichBuchstaben(item, "#FALSE#")) return false;
+  const auto zahl = GanzeZahl<int>(item);
+  return zahl ? std::optional(*zahl != 0) : std::nullopt;
+}
+
+std::optional<std::int16_t> AlsGanzzahl(std::string_view item) {
+  return GanzeZahl<std::int16_t>(item);
 }
 
 }  // namespace vesk

@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -24,5 +25,10 @@ class Itemleser {
 
   std::string_view rest_;
 };
+
+/// "#TRUE#" or "#FALSE#" in any case, or an integer, of which 0 is false.
+std::optional<bool> AlsWahrheitswert(std::string_view item);
+/// A whole number of 16 bits.
+std::optional<std::int16_t> AlsGanzzahl(std::string_view item);
 
 }  // namespace vesk

@@ -1,4 +1,4 @@
-#include "Neufassung.h"
+#include "persistence/Neufassung.h"
 
 #include <fcntl.h>
 #include <sys/file.h>

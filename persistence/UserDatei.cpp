@@ -1,17 +1,19 @@
-#include "UserDatei.h"
+#include "persistence/UserDatei.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
+#include <bitset>
 #include <limits>
 #include <optional>
 
-#include "Itemleser.h"
-#include "Laufzeitfehler.h"
-#include "Version.h"
-#include "Windows1252.h"
-#include "Zahlen.h"
+#include "engine/Laufzeitfehler.h"
+#include "engine/Version.h"
+#include "engine/Zahlen.h"
+#include "persistence/Itemleser.h"
+#include "persistence/Itemschreiber.h"
+#include "station/Datenblatt.h"
+#include "station/Operator.h"
+#include "station/Text.h"
 
 namespace vesk {
 
@@ -21,11 +23,6 @@ constexpr std::string_view AeltesteUmwandelbare = "220";
 constexpr std::string_view AeltesteAktuelle = "251";
 /// Files above this version hold all 28 fields of a column, older ones the first 24.
 constexpr float LetzteMit24Feldern = 250;
-
-constexpr std::array Benutzerfelder = {
-    &Benutzer::Name,    &Benutzer::Strasse,    &Benutzer::Ort,    &Benutzer::Telefon,
-    &Benutzer::Telefax, &Benutzer::Rufzeichen, &Benutzer::Klasse, &Benutzer::Standort,
-};
 
 /// Positions 1 to 15 of a column's record; 16 to 24 are `Winkel`, 25 `Grenzwerttyp`, 26 to 28 `Reserve`.
 constexpr std::array Spaltentexte = {
@@ -56,113 +53,60 @@ float WertOhneFehler(std::string_view text) {
   }
 }
 
-/// A text item is one line without double quotes: a line end becomes a blank, a quote an apostrophe.
-std::string AlsItem(std::string text) {
-  if (text.find_first_of("\r\n\"") == std::string::npos) return text;
-  const std::size_t crlf = 2;
-  for (std::size_t i = text.find("\r\n"); i != std::string::npos; i = text.find("\r\n", i)) {
-    text.replace(i, crlf, " ");
-  }
-  std::replace_if(
-      text.begin(), text.end(), [](char z) { return z == '\r' || z == '\n'; }, ' ');
-  std::replace(text.begin(), text.end(), '"', '\'');
-  return text;
-}
-
-bool GleichBuchstaben(std::string_view item, std::string_view gross) {
-  const auto gleich = [](char a, char b) { return a == b || (a >= 'a' && a <= 'z' && a - 'a' + 'A' == b); };
-  return std::equal(item.begin(), item.end(), gross.begin(), gross.end(), gleich);
-}
-
-std::optional<int> GanzeZahl(std::string_view item) {
-  int wert = 0;
-  const auto [ende, fehler] = std::from_chars(item.data(), item.data() + item.size(), wert);
-  if (fehler != std::errc() || ende != item.data() + item.size()) return std::nullopt;
-  return wert;
-}
-
-/// One pass over the items of a file into the state.
+/// One pass over the items of a file into the station.
 struct Lesegang {
   Itemleser items;
-  Zustand& zustand;
-  Lesebericht bericht;
+  Station& station;
+  Lesebericht bericht{};
+  bool datenblatt = false;  ///< met, as were the records of `spalten`
+  std::bitset<AnzahlSpalten> spalten{};
   bool fertig = false;
 
-  void Text(std::string& ziel, std::size_t hoechstens = MaxFeldlaenge) {
+  /// An item that belongs to the section being read.
+  std::optional<std::string_view> Naechstes() {
     const auto item = items.Naechstes();
-    if (!item) return;
-    ziel = AlsItem(NachUtf8(item->substr(0, hoechstens)));
-    bericht.etwasGelesen = true;
+    bericht.abgebrochen = bericht.abgebrochen || !item;
+    return item;
+  }
+
+  /// In Windows-1252 a character is a byte.
+  void Text(std::string& ziel, std::size_t hoechstens = MaxFeldlaenge) {
+    if (const auto item = Naechstes()) ziel = AlsItem(NachUtf8(item->substr(0, hoechstens)));
   }
 
   void Wahrheitswert(bool& ziel) {
-    const auto item = items.Naechstes();
-    if (!item) return;
-    const bool wahr = GleichBuchstaben(*item, "#TRUE#");
-    const auto zahl = GanzeZahl(*item);
-    if (!wahr && !zahl && !GleichBuchstaben(*item, "#FALSE#")) return;
-    ziel = wahr || zahl.value_or(0) != 0;
-    bericht.etwasGelesen = true;
+    if (const auto item = Naechstes()) ziel = AlsWahrheitswert(*item).value_or(ziel);
   }
 
   void Ganzzahl(std::int16_t& ziel) {
-    const auto item = items.Naechstes();
-    const auto zahl = item ? GanzeZahl(*item) : std::nullopt;
-    if (!zahl || *zahl != static_cast<std::int16_t>(*zahl)) return;
-    ziel = static_cast<std::int16_t>(*zahl);
-    bericht.etwasGelesen = true;
+    if (const auto item = Naechstes()) ziel = AlsGanzzahl(*item).value_or(ziel);
   }
-};
-
-/// Collects the lines of a file.
-struct Schreibgang {
-  const Zustand& zustand;
-  std::string bytes;
-
-  void Trennen() {
-    if (!bytes.empty() && bytes.back() != '\n') bytes += ',';
-  }
-  void Text(const std::string& utf8) {
-    Trennen();
-    bytes.append(1, '"').append(AlsItem(NachWindows1252(utf8))).append(1, '"');
-  }
-  void Wahrheitswert(bool wert) {
-    Trennen();
-    bytes += wert ? "#TRUE#" : "#FALSE#";
-  }
-  void Ganzzahl(std::int16_t wert) {
-    Trennen();
-    bytes += std::to_string(wert);
-  }
-  void Zeilenende() { bytes += "\r\n"; }
 };
 
 void UserLesen(Lesegang& gang) {
   gang.bericht.User = true;
-  for (const auto feld : Benutzerfelder) gang.Text(gang.zustand.benutzer.*feld);
+  for (const auto feld : Benutzerfelder) gang.Text(gang.station.benutzer.*feld);
 }
 
-void UserSchreiben(Schreibgang& gang) {
+void UserSchreiben(Itemschreiber& items, const Station& station) {
   for (const auto feld : Benutzerfelder) {
-    gang.Zeilenende();
-    gang.Text(gang.zustand.benutzer.*feld);
+    items.Zeilenende();
+    items.Text(station.benutzer.*feld);
   }
 }
 
 template <bool Einstellungen::*Schalter>
 void SchalterLesen(Lesegang& gang) {
-  gang.bericht.ToolTips = gang.bericht.ToolTips || Schalter == &Einstellungen::ToolTips;
-  gang.bericht.AFu = gang.bericht.AFu || Schalter == &Einstellungen::AFu;
-  gang.Wahrheitswert(gang.zustand.einstellungen.*Schalter);
+  gang.Wahrheitswert(gang.station.einstellungen.*Schalter);
 }
 
 template <bool Einstellungen::*Schalter>
-void SchalterSchreiben(Schreibgang& gang) {
-  gang.Wahrheitswert(gang.zustand.einstellungen.*Schalter);
+void SchalterSchreiben(Itemschreiber& items, const Station& station) {
+  items.Wahrheitswert(station.einstellungen.*Schalter);
 }
 
 void VersionLesen(Lesegang& gang) {
-  const auto item = gang.items.Naechstes();
+  const auto item = gang.Naechstes();
   if (!item) return;
   gang.bericht.versionstext = NachUtf8(*item);
   if (*item < AeltesteUmwandelbare) {
@@ -173,57 +117,61 @@ void VersionLesen(Lesegang& gang) {
   }
 }
 
-void VersionSchreiben(Schreibgang& gang) {
-  gang.Text(VersionText());
+void VersionSchreiben(Itemschreiber& items, const Station& /*station*/) {
+  items.Text(VersionText());
 }
 
 void FooterLesen(Lesegang& gang) {
-  std::string& fusszeile = gang.zustand.Fusszeile;
+  std::string& fusszeile = gang.station.Fusszeile;
   gang.Text(fusszeile);
   // Older versions stored the whole printed line; the generated part must not come twice.
   if (fusszeile.find("Erstellt") != std::string::npos) fusszeile.clear();
 }
 
-void FooterSchreiben(Schreibgang& gang) {
-  gang.Text(gang.zustand.Fusszeile);
+void FooterSchreiben(Itemschreiber& items, const Station& station) {
+  items.Text(station.Fusszeile);
 }
 
 void DatenblattLesen(Lesegang& gang) {
-  for (std::string& zelle : gang.zustand.Zellen) gang.Text(zelle, MaxZellenlaenge);
+  gang.datenblatt = true;
+  for (std::string& zelle : gang.station.Zellen) gang.Text(zelle, MaxZellenlaenge);
 }
 
-void DatenblattSchreiben(Schreibgang& gang) {
-  for (const std::string& zelle : gang.zustand.Zellen) {
-    gang.Zeilenende();
-    gang.Text(zelle);
+void DatenblattSchreiben(Itemschreiber& items, const Station& station) {
+  for (const std::string& zelle : station.Zellen) {
+    items.Zeilenende();
+    items.Text(zelle);
   }
 }
 
 void SpalteLesen(Lesegang& gang, std::size_t nummer) {
-  Datenblattspalte& spalte = gang.zustand.Datenblattspalten.at(nummer);
-  gang.bericht.Spalten.set(nummer - 1);
+  Datenblattspalte& spalte = gang.station.Datenblattspalten.at(nummer);
+  gang.spalten.set(nummer - 1);
   for (const auto feld : Spaltentexte) gang.Text(spalte.*feld);
   for (std::string& winkel : spalte.Winkel) gang.Text(winkel);
+  const float faktor = WertOhneFehler(spalte.Modulationsfaktor) * WertOhneFehler(spalte.Zyklusfaktor);
+  gang.station.spaltenfarben.at(nummer - 1).ohneHSM = faktor >= 1 ? Toenung::Blass : Toenung::Kraeftig;
+  gang.station.spaltenfarben.at(nummer - 1).hsm = true;
   if (!(WertOhneFehler(gang.bericht.versionstext) > LetzteMit24Feldern)) return;
   gang.Ganzzahl(spalte.Grenzwerttyp);
   for (std::string& reserve : spalte.Reserve) gang.Text(reserve);
 }
 
-void SpalteSchreiben(Schreibgang& gang, std::size_t nummer) {
-  const Datenblattspalte& spalte = gang.zustand.Datenblattspalten.at(nummer);
-  gang.Text(std::string{'[', static_cast<char>('A' + nummer - 1), ']'});
-  for (const auto feld : Spaltentexte) gang.Text(spalte.*feld);
-  for (const std::string& winkel : spalte.Winkel) gang.Text(winkel);
-  gang.Ganzzahl(spalte.Grenzwerttyp);
-  for (const std::string& reserve : spalte.Reserve) gang.Text(reserve);
-  gang.Zeilenende();
+void SpalteSchreiben(Itemschreiber& items, const Station& station, std::size_t nummer) {
+  const Datenblattspalte& spalte = station.Datenblattspalten.at(nummer);
+  items.Text(std::string{'[', Spaltenbuchstabe(static_cast<std::int16_t>(nummer)), ']'});
+  for (const auto feld : Spaltentexte) items.Text(spalte.*feld);
+  for (const std::string& winkel : spalte.Winkel) items.Text(winkel);
+  items.Ganzzahl(spalte.Grenzwerttyp);
+  for (const std::string& reserve : spalte.Reserve) items.Text(reserve);
+  items.Zeilenende();
 }
 
 /// One named section. Writing starts behind the name on the same line.
 struct Abschnitt {
   std::string_view name;
   void (*lesen)(Lesegang&);
-  void (*schreiben)(Schreibgang&);
+  void (*schreiben)(Itemschreiber&, const Station&);
 };
 
 /// The sections in the order of the file; the seven column records follow.
@@ -247,9 +195,12 @@ std::string_view Abschnittsname(std::string_view item) {
 void AbschnittLesen(std::string_view name, Lesegang& gang) {
   const auto* abschnitt = std::find_if(std::begin(Abschnitte), std::end(Abschnitte),
                                        [&](const Abschnitt& einer) { return einer.name == name; });
+  const bool spalte = name >= "A" && name <= "G";
+  gang.bericht.bekannt =
+      gang.bericht.bekannt || abschnitt != std::end(Abschnitte) || (spalte && name.size() == 1);
   if (abschnitt != std::end(Abschnitte)) {
     abschnitt->lesen(gang);
-  } else if (name >= "A" && name <= "G") {
+  } else if (spalte) {
     // "Foo" lies between "A" and "G" as well and is column F, "G1" and "a" are not.
     SpalteLesen(gang, static_cast<std::size_t>(name.front() - 'A') + 1);
   }
@@ -257,8 +208,8 @@ void AbschnittLesen(std::string_view name, Lesegang& gang) {
 
 /// Whether every item of `bytes` comes again, in its order, when the state is written. Empty ones carry
 /// nothing.
-bool StehtWiederDrin(std::string_view bytes, const Zustand& zustand) {
-  const std::string neu = UserDateiSchreiben(zustand);
+bool StehtWiederDrin(std::string_view bytes, const Station& station) {
+  const std::string neu = UserDateiSchreiben(station);
   Itemleser alteItems(bytes);
   Itemleser neueItems(neu);
   const auto naechstes = [](Itemleser& items) {
@@ -272,54 +223,44 @@ bool StehtWiederDrin(std::string_view bytes, const Zustand& zustand) {
   return true;
 }
 
-std::string ErzeugteFusszeile() {
-  return "Erstellt mit " + std::string(Produktname) + " v " + VersionLang() + " - " +
-         std::string(Rechtshinweis);
-}
-
 }  // namespace
 
-Lesebericht UserDateiLesen(std::string_view bytes, Zustand& zustand) {
-  constexpr std::string_view ReihenfolgeMarke = "\xEF\xBB\xBF";
-  std::string umgewandelt;
-  bool verlustfrei = true;
-  // No file of the program is valid UTF-8, its second line sees to that; so an editor has changed it.
-  if (IstUtf8(bytes)) {
-    if (bytes.starts_with(ReihenfolgeMarke)) bytes.remove_prefix(ReihenfolgeMarke.size());
-    umgewandelt = NachWindows1252(bytes);
-    verlustfrei = NachUtf8(umgewandelt) == bytes;
-    bytes = umgewandelt;
-  }
-  Lesegang gang{Itemleser(bytes), zustand, {}};
+Lesebericht UserDateiLesen(std::string_view bytes, Station& station) {
+  // No file of the program is valid UTF-8, its second line sees to that; one that is has been edited.
+  const std::string text = AlsWindows1252(bytes);
+  for (Spaltenfarben& farben : station.spaltenfarben) farben.rueckwaerts = false;
+  Lesegang gang{Itemleser(text), station};
   while (!gang.fertig) {
     const auto item = gang.items.Naechstes();
     if (!item) break;
     AbschnittLesen(Abschnittsname(*item), gang);
   }
-  gang.bericht.verlustfrei = verlustfrei && StehtWiederDrin(bytes, zustand);
+  const bool ganz = gang.fertig ? !gang.items.AmEnde() : gang.datenblatt && gang.spalten.all();
+  gang.bericht.abgebrochen = gang.bericht.abgebrochen || !ganz;
+  const bool jedesZeichen = text == bytes || bytes.ends_with(NachUtf8(text));
+  gang.bericht.verlustfrei = jedesZeichen && StehtWiederDrin(text, station);
   return gang.bericht;
 }
 
-std::string UserDateiSchreiben(const Zustand& zustand) {
-  Schreibgang gang{zustand, {}};
-  gang.bytes.reserve(8192);
-  gang.Text("Die Datei wird vom Programm erstellt");
-  gang.Zeilenende();
-  gang.Text("bitte nichts ändern");
-  gang.Zeilenende();
-  gang.Zeilenende();
+std::string UserDateiSchreiben(const Station& station) {
+  Itemschreiber items;
+  items.Text("Die Datei wird vom Programm erstellt");
+  items.Zeilenende();
+  items.Text("bitte nichts ändern");
+  items.Zeilenende();
+  items.Zeilenende();
   for (const Abschnitt& abschnitt : Abschnitte) {
-    gang.Text("[" + std::string(abschnitt.name) + "]");
-    abschnitt.schreiben(gang);
-    gang.Zeilenende();
+    items.Text("[" + std::string(abschnitt.name) + "]");
+    abschnitt.schreiben(items, station);
+    items.Zeilenende();
   }
-  for (std::size_t nummer = 1; nummer <= AnzahlSpalten; ++nummer) SpalteSchreiben(gang, nummer);
-  return std::move(gang.bytes);
+  for (std::size_t nummer = 1; nummer <= AnzahlSpalten; ++nummer) SpalteSchreiben(items, station, nummer);
+  return std::move(items).Bytes();
 }
 
-void FaktorenNormalisieren(Zustand& zustand) {
+void FaktorenNormalisieren(Station& station) {
   for (std::size_t nummer = 1; nummer <= AnzahlSpalten; ++nummer) {
-    Datenblattspalte& spalte = zustand.Datenblattspalten.at(nummer);
+    Datenblattspalte& spalte = station.Datenblattspalten.at(nummer);
     for (std::string* faktor : {&spalte.Modulationsfaktor, &spalte.Zyklusfaktor}) {
       const float wert = WertOhneFehler(*faktor);
       if (wert == 0 || wert > 1) *faktor = "1.00";
@@ -327,21 +268,13 @@ void FaktorenNormalisieren(Zustand& zustand) {
   }
 }
 
-void UserDateiVorgaben(Zustand& zustand) {
+void UserDateiVorgaben(Station& station) {
   for (std::size_t nummer = 1; nummer <= AnzahlSpalten; ++nummer) {
-    Datenblattspalte& spalte = zustand.Datenblattspalten.at(nummer);
+    Datenblattspalte& spalte = station.Datenblattspalten.at(nummer);
     spalte.Modulationsfaktor = "1";
     spalte.Zyklusfaktor = "1";
     spalte.Grenzwerttyp = GrenzwertAM;
   }
-}
-
-float Faktorprodukt(const Datenblattspalte& spalte) {
-  return WertOhneFehler(spalte.Modulationsfaktor) * WertOhneFehler(spalte.Zyklusfaktor);
-}
-
-std::string DruckFusszeile(const Zustand& zustand) {
-  return zustand.Fusszeile + ErzeugteFusszeile();
 }
 
 std::string Migrationsmeldung(const Lesebericht& bericht, std::string_view datei) {
@@ -351,22 +284,6 @@ std::string Migrationsmeldung(const Lesebericht& bericht, std::string_view datei
   const std::string leer = bericht.version == Dateiversion::ZuAlt ? "Eine leere Datei: " : "";
   return "Daten aus Programmversion " + bericht.versionstext + ".\r" + f + " wird umbenannt in " + stamm +
          ".bak\r" + leer + f + " wird neu erstellt.";
-}
-
-std::string TitelBenutzerfenster(const Zustand& zustand) {
-  return "Persönliche Daten " + zustand.benutzer.Rufzeichen;
-}
-
-std::string TitelHauptfenster(const Zustand& zustand) {
-  return "EMVU Sicherheitsabstand:  " + zustand.UserDatei;
-}
-
-std::string TitelDatenblatt(const Zustand& zustand) {
-  // A long directory would push the name of the file out of the title bar.
-  constexpr std::size_t ZuLang = 40;
-  const std::string kopf = "Datenblatt  Vfg 306/97 Anlage Blatt 5.2  -  ";
-  if (Zeichenzahl(zustand.UserVerzeichnis) >= ZuLang) return kopf + zustand.UserDatei;
-  return kopf + zustand.UserVerzeichnis + "\\" + zustand.UserDatei;
 }
 
 }  // namespace vesk

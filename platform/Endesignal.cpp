@@ -1,4 +1,4 @@
-#include "Endesignal.h"
+#include "platform/Endesignal.h"
 
 #include <sys/signalfd.h>
 #include <unistd.h>

@@ -2,30 +2,19 @@
 #include <QString>
 #include <optional>
 
+#include "engine/Hinweise.h"
+
 /// What the windows need of the desktop. Tests put scripted implementations in place of the real ones.
 namespace vesk {
-
-enum class Symbol { Ausrufezeichen, Frage };
-enum class Knoepfe { OK, JaNein };
-enum class Antwort : short { OK = 1, Ja = 6, Nein = 7 };
-
-/// A modal box. A Ja/Nein box can only be left by one of its buttons.
-struct Box {
-  QString titel;
-  QString text;
-  Symbol symbol = Symbol::Ausrufezeichen;
-  Knoepfe knoepfe = Knoepfe::OK;
-  Antwort vorgabe = Antwort::Ja;  ///< default button of a Ja/Nein box
-};
 
 class Meldungsboxen {
  public:
   virtual ~Meldungsboxen() = default;
-  virtual Antwort Zeigen(const Box& box) = 0;
+  virtual Antwort Zeigen(const Hinweis& box) = 0;
 };
 
 /// `filter` in the form "User Dateien (*.dat)"; `endung` without a dot is added to a name that has none.
-struct Dateiwahl {
+struct Dialogwahl {
   QString titel;
   QString filter;
   QString endung;
@@ -37,8 +26,8 @@ struct Dateiwahl {
 class Dateidialoge {
  public:
   virtual ~Dateidialoge() = default;
-  virtual std::optional<QString> Oeffnen(const Dateiwahl& wahl) = 0;
-  virtual std::optional<QString> Speichern(const Dateiwahl& wahl) = 0;
+  virtual std::optional<QString> Oeffnen(const Dialogwahl& wahl) = 0;
+  virtual std::optional<QString> Speichern(const Dialogwahl& wahl) = 0;
 };
 
 enum class Hilfebefehl { Kontext = 1, Beenden = 2, Inhalt = 3, HilfeBenutzen = 4 };

@@ -1,4 +1,4 @@
-#include "QtDokumentdrucker.h"
+#include "platform/QtDokumentdrucker.h"
 
 #include <QApplication>
 #include <QPrintDialog>

@@ -1,5 +1,5 @@
 #pragma once
-#include "Dokumentdrucker.h"
+#include "platform/Dokumentdrucker.h"
 
 namespace vesk {
 

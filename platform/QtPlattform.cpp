@@ -1,4 +1,4 @@
-#include "QtPlattform.h"
+#include "platform/QtPlattform.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -9,33 +9,59 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <algorithm>
 
 namespace vesk {
 
 namespace {
 
-/// A box that can only be left by a button when it asks a question: neither Escape nor the frame answers it.
+/// The window that a box belongs to and stays in front of, also before one is active and beside another
+/// program.
+QWidget* Vordergrund() {
+  if (QWidget* aktiv = QApplication::activeWindow()) return aktiv;
+  const QWidgetList fenster = QApplication::topLevelWidgets();
+  const auto offen = std::find_if(fenster.begin(), fenster.end(), [](const QWidget* w) {
+    return w->isVisible() && w->windowType() == Qt::Window;
+  });
+  return offen == fenster.end() ? nullptr : *offen;
+}
+
+/// A box that only a key press of its own answers: one held down since before it opened repeats, and its
+/// release answers nothing. A question can only be left by a button, neither by Escape nor by the frame.
 class StrengeBox : public QMessageBox {
  public:
-  using QMessageBox::QMessageBox;
-  bool nurKnoepfe = false;
+  StrengeBox(bool frage, const Tastenuhr& uhr) : QMessageBox(Vordergrund()), frage_(frage), uhr_(uhr) {}
+
+  void Fragen() {
+    const QList<QWidget*> kinder = findChildren<QWidget*>();
+    for (QWidget* kind : kinder) kind->installEventFilter(this);
+    installEventFilter(this);
+    exec();
+  }
 
  protected:
-  void keyPressEvent(QKeyEvent* ereignis) override {
-    if (nurKnoepfe && ereignis->key() == Qt::Key_Escape) return;
-    QMessageBox::keyPressEvent(ereignis);
+  bool eventFilter(QObject* objekt, QEvent* ereignis) override {
+    if (ereignis->type() == QEvent::KeyPress) {
+      const auto* taste = static_cast<QKeyEvent*>(ereignis);
+      if (uhr_.Wiederholt(*taste) || (frage_ && taste->key() == Qt::Key_Escape)) return true;
+    }
+    return QMessageBox::eventFilter(objekt, ereignis);
   }
   void closeEvent(QCloseEvent* ereignis) override {
-    if (nurKnoepfe) {
+    if (frage_) {
       ereignis->ignore();
     } else {
       QMessageBox::closeEvent(ereignis);
     }
   }
+
+ private:
+  bool frage_;
+  const Tastenuhr& uhr_;
 };
 
-QFileDialog* NeuerDialog(const Dateiwahl& wahl) {
-  auto* dialog = new QFileDialog(QApplication::activeWindow(), wahl.titel, wahl.verzeichnis, wahl.filter);
+QFileDialog* NeuerDialog(const Dialogwahl& wahl) {
+  auto* dialog = new QFileDialog(Vordergrund(), wahl.titel, wahl.verzeichnis, wahl.filter);
   dialog->setDefaultSuffix(wahl.endung);
   if (!wahl.vorschlag.isEmpty()) dialog->selectFile(wahl.vorschlag);
   return dialog;
@@ -52,40 +78,51 @@ std::optional<QString> Ausfuehren(QFileDialog* dialog) {
 
 }  // namespace
 
-Antwort QtMeldungsboxen::Zeigen(const Box& box) {
-  StrengeBox fenster(QApplication::activeWindow());
-  fenster.setWindowTitle(box.titel);
+bool Tastenuhr::Wiederholt(const QKeyEvent& druck) const {
+  if (druck.isAutoRepeat()) return true;
+  const auto stelle = losgelassen_.constFind(druck.key());
+  return druck.timestamp() != 0 && stelle != losgelassen_.constEnd() && *stelle == druck.timestamp();
+}
+
+bool Tastenuhr::eventFilter(QObject*, QEvent* ereignis) {
+  if (ereignis->type() == QEvent::KeyRelease) {
+    const auto* taste = static_cast<QKeyEvent*>(ereignis);
+    losgelassen_[taste->key()] = taste->timestamp();
+  }
+  return false;
+}
+
+QtMeldungsboxen::QtMeldungsboxen() {
+  qApp->installEventFilter(&uhr_);
+}
+
+Antwort QtMeldungsboxen::Zeigen(const Hinweis& box) {
+  const bool frage = box.knoepfe == Knoepfe::JaNein;
+  StrengeBox fenster(frage, uhr_);
+  fenster.setWindowTitle(QString::fromStdString(box.titel));
   fenster.setTextFormat(Qt::PlainText);
   // Some texts break their lines with CR, which a label does not show.
-  fenster.setText(QString(box.text).replace(QLatin1Char('\r'), QLatin1Char('\n')));
-  switch (box.symbol) {
-    case Symbol::Ausrufezeichen:
-      fenster.setIcon(QMessageBox::Warning);
-      break;
-    case Symbol::Frage:
-      fenster.setIcon(QMessageBox::Question);
-      break;
-  }
-  if (box.knoepfe == Knoepfe::OK) {
+  fenster.setText(QString::fromStdString(box.text).replace(QLatin1Char('\r'), QLatin1Char('\n')));
+  fenster.setIcon(box.symbol == Symbol::Frage ? QMessageBox::Question : QMessageBox::Warning);
+  if (!frage) {
     fenster.addButton(QStringLiteral("&OK"), QMessageBox::AcceptRole);
-    fenster.exec();
+    fenster.Fragen();
     return Antwort::OK;
   }
   QPushButton* ja = fenster.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
   QPushButton* nein = fenster.addButton(QStringLiteral("&Nein"), QMessageBox::NoRole);
   fenster.setDefaultButton(box.vorgabe == Antwort::Nein ? nein : ja);
-  fenster.nurKnoepfe = true;
-  fenster.exec();
+  fenster.Fragen();
   return fenster.clickedButton() == ja ? Antwort::Ja : Antwort::Nein;
 }
 
-std::optional<QString> QtDateidialoge::Oeffnen(const Dateiwahl& wahl) {
+std::optional<QString> QtDateidialoge::Oeffnen(const Dialogwahl& wahl) {
   QFileDialog* dialog = NeuerDialog(wahl);
   dialog->setFileMode(QFileDialog::ExistingFile);
   return Ausfuehren(dialog);
 }
 
-std::optional<QString> QtDateidialoge::Speichern(const Dateiwahl& wahl) {
+std::optional<QString> QtDateidialoge::Speichern(const Dialogwahl& wahl) {
   QFileDialog* dialog = NeuerDialog(wahl);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   return Ausfuehren(dialog);

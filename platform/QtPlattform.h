@@ -1,17 +1,39 @@
 #pragma once
-#include "Plattform.h"
+#include <QHash>
+#include <QObject>
+
+#include "platform/Plattform.h"
+
+class QKeyEvent;
 
 namespace vesk {
 
+/// Tells a key that is held down from one that is pressed anew. X11 sends a release and a press of the same
+/// instant for each repetition, and the toolkit does not mark them all.
+class Tastenuhr : public QObject {
+ public:
+  bool Wiederholt(const QKeyEvent& druck) const;
+
+ protected:
+  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
+ private:
+  QHash<int, quint64> losgelassen_;  ///< time stamps by keys
+};
+
 class QtMeldungsboxen : public Meldungsboxen {
  public:
-  Antwort Zeigen(const Box& box) override;
+  QtMeldungsboxen();
+  Antwort Zeigen(const Hinweis& box) override;
+
+ private:
+  Tastenuhr uhr_;
 };
 
 class QtDateidialoge : public Dateidialoge {
  public:
-  std::optional<QString> Oeffnen(const Dateiwahl& wahl) override;
-  std::optional<QString> Speichern(const Dateiwahl& wahl) override;
+  std::optional<QString> Oeffnen(const Dialogwahl& wahl) override;
+  std::optional<QString> Speichern(const Dialogwahl& wahl) override;
 };
 
 class QtBenutzerspeicher : public Benutzerspeicher {

@@ -1,4 +1,4 @@
-#include "Polardiagramm.h"
+#include "print/Polardiagramm.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

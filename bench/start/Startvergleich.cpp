@@ -52,36 +52,61 @@ double Median(std::vector<double> werte) {
   return *mitte;
 }
 
+/// Runs this program again on a display of its own under a window manager.
+constexpr const char* EigenerBildschirm = R"(
+  marke=$(mktemp -u)
+  openbox --startup "touch $marke" >/dev/null 2>&1 &
+  while [ ! -e "$marke" ] && kill -0 $! 2>/dev/null; do sleep 0.1; done
+  rm "$marke" 2>/dev/null || { echo "openbox fehlt oder ist nicht angelaufen." >&2; exit 1; }
+  exec "$0" "Xvfb mit openbox"
+)";
+
+/// Where the windows are shown, as the output tells it. Without a display it starts the program anew on one.
+std::string Bildschirm(const char* programm) {
+  for (const char* name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
+    if (const char* wert = std::getenv(name)) return std::string(name) + "=" + wert;
+  }
+  execlp("xvfb-run", "xvfb-run", "-a", "-s", "-screen 0 1280x1024x24", "sh", "-c", EigenerBildschirm,
+         programm, nullptr);
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  return "keiner (offscreen), denn xvfb-run fehlt";
+}
+
+/// The directory of the program's files, with the shipped catalogues in it.
+std::filesystem::path Verzeichnis(const std::filesystem::path& hier) {
+  std::filesystem::path ziel = std::filesystem::temp_directory_path() / "vesk-startvergleich";
+  std::filesystem::create_directories(ziel);
+  for (const char* name : {"Kabel.txt", "Antennen.txt"}) {
+    const std::filesystem::path quelle = hier / "../../data" / name;
+    if (!std::filesystem::exists(quelle)) continue;
+    std::filesystem::copy_file(quelle, ziel / name, std::filesystem::copy_options::overwrite_existing);
+  }
+  return ziel;
+}
+
 }  // namespace
 
-/// Starts both programs in turn and prints medians and their ratio.
-int main() {
+/// Starts both programs in turn and prints medians and their ratio. An argument names the display.
+int main(int anzahl, char** argumente) {
   constexpr int Laeufe = 21;
-  const std::filesystem::path hier = std::filesystem::read_symlink("/proc/self/exe").parent_path();
-  const std::filesystem::path verzeichnis = std::filesystem::temp_directory_path() / "vesk-startvergleich";
-  std::filesystem::create_directories(verzeichnis);
-  const std::filesystem::path kabel = hier / "../../data/Kabel.txt";
-  if (std::filesystem::exists(kabel)) {
-    for (const char* name : {"Kabel.txt", "Antennen.txt"}) {
-      std::filesystem::copy_file(hier / "../../data" / name, verzeichnis / name,
-                                 std::filesystem::copy_options::overwrite_existing);
-    }
-  }
+  const std::filesystem::path selbst = std::filesystem::read_symlink("/proc/self/exe");
+  const std::filesystem::path hier = selbst.parent_path();
+  const std::string bildschirm = anzahl > 1 ? argumente[1] : Bildschirm(selbst.c_str());
+  const std::string verzeichnis = Verzeichnis(hier);
   setenv("HOME", verzeichnis.c_str(), 1);
   setenv("XDG_CONFIG_HOME", verzeichnis.c_str(), 1);
-  if (std::getenv("DISPLAY") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 0);
 
   std::array<std::vector<double>, 2> zeiten;
   std::array<std::vector<double>, 2> speicher;
   for (int lauf = -1; lauf < Laeufe; ++lauf) {
     for (std::size_t i = 0; i < 2; ++i) {
-      const Messung m =
-          Starten((hier / (i == 0 ? "start_leer" : "start_vesk")).string(), verzeichnis.string());
+      const Messung m = Starten((hier / (i == 0 ? "start_leer" : "start_vesk")).string(), verzeichnis);
       if (lauf < 0) continue;  // the first start fills the caches
       zeiten[i].push_back(m.ms);
       speicher[i].push_back(m.MiB);
     }
   }
+  std::printf("Bildschirm: %s\n", bildschirm.c_str());
   std::printf("%-16s %12s %12s %10s\n", "", "leer", "Vesk", "Verhältnis");
   const auto zeile = [](const char* titel, const std::array<std::vector<double>, 2>& werte) {
     const double leer = Median(werte[0]);

@@ -1,92 +1,133 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
+#include <fstream>
 #include <sstream>
-#include <vector>
 
-#include "Kommandozeile.h"
+#include "app/Kommandozeile.h"
+#include "app/Verzeichnisse.h"
+#include "tests/Tabelle.h"
+#include "tests/platform/Skript.h"
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 namespace {
 
-struct Lauf {
-  int code;
-  std::string aus;
+struct Lauf : Aufruf {
+  QString aus;
   std::string fehler;
 };
 
-Lauf Ausfuehren(const std::string& zeile) {
-  std::istringstream worte(zeile);
-  const std::vector<std::string> argumente{std::istream_iterator<std::string>(worte), {}};
-  std::ostringstream aus;
+Lauf Ausfuehren(const QString& zeile, std::ostream&& aus = std::stringstream()) {
   std::ostringstream fehler;
-  const int code = Rechnen(argumente, ',', aus, fehler);
-  return {code, aus.str(), fehler.str()};
+  const Aufruf aufruf = KommandozeileAusfuehren(zeile.split(u' ', Qt::SkipEmptyParts), ',', aus, fehler);
+  const std::string text(std::istreambuf_iterator<char>(aus.rdbuf()), {});
+  return {aufruf, QString::fromStdString(text), fehler.str()};
 }
 
-QJsonObject Json(const Lauf& lauf) {
-  return QJsonDocument::fromJson(QByteArray::fromStdString(lauf.aus)).object();
+QJsonObject Json(const QString& zeile) {
+  return QJsonDocument::fromJson(Ausfuehren("rechnen --json "_L1 + zeile).aus.toUtf8()).object();
+}
+
+QString NamenOhneWert(const QJsonValue& objekt) {
+  QStringList namen = objekt.toObject().keys();
+  namen.removeIf([&](const QString& name) { return !objekt[name].isNull(); });
+  return namen.join(u' ');
 }
 
 TEST(Rechnen, JsonTraegtAlleFelder) {
-  const QJsonObject o = Json(Ausfuehren("--qrg 14,2 --pwr 100 --faktor 0.4 --json"));
-  EXPECT_EQ(o[u"txtAusgabe"].toString(), u"1.26");
-  EXPECT_EQ(o[u"txtQRG"].toString(), u"14.2");
-  EXPECT_EQ(o[u"txtGewinn"].toString(), u"0");
-  EXPECT_EQ(o[u"lblHSM306"].toString(), u"HSM 306\n14,35");
-  EXPECT_EQ(o[u"Nahfeldflags"].toInt(), 1);
+  const QJsonObject o = Json(u"--qrg 14,2 --pwr 100 --faktor 0.4 --gewinn -,0"_s);
+  EXPECT_EQ(o[u"txtAusgabe"], u"1.26"_s);
+  EXPECT_EQ(o[u"txtGewinn"], u"-.0"_s);
+  EXPECT_EQ(o[u"Nahfeldflags"], 1);
   EXPECT_EQ(o[u"Meldungen"].toArray().size(), 1);
-  EXPECT_NEAR(o[u"Werte"].toObject()[u"Fernfeld"].toDouble(), 85.655, 1e-9);
-  EXPECT_FALSE(o.contains(u"Laufzeitfehler"));
+  EXPECT_NEAR(o[u"Werte"][u"Fernfeld"].toDouble(), 85.655, 1e-9);
+  EXPECT_EQ(NamenOhneWert(o[u"Werte"]), u"");
 }
 
-TEST(Rechnen, GraueFelderSindLeer) {
-  const QJsonObject o =
-      Json(Ausfuehren("--qrg 145 --abstand 5 --gewinn=12.5 --daempfung 1,2 --winkel 3.33 --json"));
-  EXPECT_EQ(o[u"txtAusgabe"].toString(), u"100.58");
-  EXPECT_EQ(o[u"txtAusgabeHSM306"].toString(), u"");
-  EXPECT_EQ(o[u"txtStrahlung"].toString(), u"");
+TEST(Rechnen, UndefiniertesHatKeinenWert) {
+  const QJsonObject o = Json(u"--qrg 145 --abstand 5 --gewinn=12.5 --daempfung 1,2 --winkel 3.33"_s);
+  EXPECT_EQ(o[u"txtAusgabe"], u"100.58"_s);
+  EXPECT_EQ(NamenOhneWert(o),
+            u"lblStrahlung txtAusgabeHSM306 txtAusgabeHSMvde txtGrenzwertHSM306 "
+            "txtGrenzwertHSMvde txtStrahlung txtUssHSM306 txtUssVDE");
+  EXPECT_EQ(NamenOhneWert(o[u"Werte"]),
+            u"EIRP GrenzwertHSM306 GrenzwertHSMvde LeistungHSM306 "
+            "LeistungHSMvde SpitzenfeldHSM306 Uss306 UssVDE");
 }
 
 TEST(Rechnen, LaufzeitfehlerGibtAusWasGerechnetIst) {
-  const Lauf lauf = Ausfuehren("--qrg 0.002 --pwr 100 --exakt --json");
-  EXPECT_EQ(lauf.code, 1);
-  EXPECT_NE(lauf.fehler.find("Gleitkommafehler"), std::string::npos);
-  const QJsonObject o = Json(lauf);
-  EXPECT_EQ(o[u"txtStrahlung"].toString(), u"100.00");
-  EXPECT_EQ(o[u"Laufzeitfehler"].toString(), u"Gleitkommafehler in der Berechnung.");
-  EXPECT_EQ(o[u"Meldungen"].toArray().size(), 2);
+  EXPECT_EQ(Ausfuehren(u"rechnen --qrg 0.002 --pwr 100 --exakt"_s).rueckgabe, 1);
+  const QJsonObject o = Json(u"--qrg 0.002 --pwr 100 --exakt"_s);
+  EXPECT_EQ(o[u"txtStrahlung"], u"100.00"_s);
+  EXPECT_EQ(o[u"Laufzeitfehler"], u"Gleitkommafehler in der Berechnung."_s);
+  const QString leer = NamenOhneWert(Json(u"--qrg 0.002 --abstand 5 --exakt"_s));
+  EXPECT_TRUE(leer.startsWith(u"Nahfeldflags lblStrahlung txtAusgabe txtAusgabeHSM306 txtAusgabeHSMvde"));
 }
 
-TEST(Rechnen, FalscheEingaben) {
-  const std::pair<std::string, const char*> faelle[] = {
-      {"", "--qrg"},
-      {"--qrg 14", "--abstand"},
-      {"--pwr 100", "--qrg"},
-      {"--qrg abc --pwr 1", "keine Zahl"},
-      {"--qrg 1,2,3 --pwr 1", "keine Zahl"},
-      {"--qrg nan --pwr 1", "keine Zahl"},
-      {"--qrg inf --pwr 1", "keine Zahl"},
-      {"--qrg --14 --pwr 1", "keine Zahl"},
-      {"--qrg 14 --pwr 0", "größer als 0"},
-      {"--qrg 14 --pwr " + std::string(400, '9'), "zu groß"},
-      {"--qrg 14 --pwr 1 --daempfung -1", "negativ"},
-      {"--qrg 14 --pwr 1 --gewinn 101", "100 dBi"},
-      {"--qrg 14 --pwr 1 --faktor 0", "höchstens 1"},
-      {"--qrg 14 --pwr 1 --typ FM", "AM, TV oder GSM"},
-      {"--qrg 14 --pwr 1 --abstand 2", "schließen einander aus"},
-      {"--qrg 14 --pwr", "fehlt ihr Wert"},
-      {"--qrg 14 --pwr 1 --foo", "Unbekannte Option: --foo"},
-      {"--qrg 14 --pwr 1 rest", "Unerwartete Angabe: rest"},
-  };
-  for (const auto& [zeile, text] : faelle) {
-    const Lauf lauf = Ausfuehren(zeile);
-    EXPECT_EQ(lauf.code, 2) << zeile;
-    EXPECT_EQ(lauf.aus, "") << zeile;
-    EXPECT_NE(lauf.fehler.find(text), std::string::npos) << zeile << "\n" << lauf.fehler;
+TEST(Rechnen, ErgebnisseStehenUnterIhrenKoepfen) {
+  const QString aus = Ausfuehren(u"rechnen --qrg 14,2 --pwr 100 --faktor 0.4"_s).aus;
+  EXPECT_TRUE(
+      aus.contains(uR"(
+                                                    ohne HSM         HSM VDE         HSM 306
+Berechnung für  f  [MHz]                               14,00           14,35           14,35
+Grenzwert der Ersatzfeldstärke Eg [V/m]                27.50           12.33            6.56
+Spitzenspannung Uss [V]                                                 0.89            0.32
+Erforderlicher Sicherheitsabstand [m]                   1.26            4.44            8.35
+)")) << aus.toStdString();
+}
+
+TEST(Kommandozeile, FalscheEingaben) {
+  for (const Tabellenzeile& fall : Tabelle("app/Kommandozeile.csv")) {
+    const Lauf lauf = Ausfuehren(QString::fromStdString(fall["zeile"]));
+    EXPECT_TRUE(lauf.rueckgabe == 2 && lauf.aus.isEmpty()) << fall.text;
+    EXPECT_NE(lauf.fehler.find(fall["meldung"]), std::string::npos) << fall.text << "\n" << lauf.fehler;
   }
+}
+
+TEST(Kommandozeile, OptionenDesToolkitsGehenDurch) {
+  const Lauf lauf = Ausfuehren(u"--platform=minimal -display :9 -style x -geometry 9x9 --verzeichnis d"_s);
+  EXPECT_TRUE(!lauf.rueckgabe && lauf.verzeichnis == u"d") << lauf.fehler;
+  EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), "minimal");
+}
+
+TEST(Kommandozeile, AusgabeDieNichtGeht) {
+  for (const QString& zeile : {u"rechnen --qrg 14 --pwr 1"_s, u"rechnen -h"_s, u"--help"_s, u"--version"_s}) {
+    EXPECT_EQ(Ausfuehren(zeile).rueckgabe, 0) << zeile.toStdString();
+    const Lauf lauf = Ausfuehren(zeile, std::ofstream("/dev/full"));
+    EXPECT_EQ(lauf.rueckgabe, 1) << zeile.toStdString();
+    EXPECT_NE(lauf.fehler.find("Ausgabe"), std::string::npos) << zeile.toStdString();
+  }
+}
+
+QByteArray Inhalt(const QString& pfad) {
+  QFile datei(pfad);
+  return datei.open(QIODevice::ReadOnly) ? datei.readAll() : "fehlt";
+}
+
+TEST(Verzeichnisse, MitgelieferteKommenEinmal) {
+  const QTemporaryDir ordner;
+  const Verzeichnisse v{ordner.path(), QStringLiteral(VESK_DATEN)};
+  const QString kabel = ordner.filePath(u"Kabel.txt"_s);
+  QFile eigene(ordner.filePath(u"Antennen.txt"_s));
+  ASSERT_TRUE(eigene.open(QIODevice::WriteOnly) && eigene.setPermissions(QFile::ReadOwner));
+  skript::Speicher speicher;
+
+  MitgelieferteKopieren(v, speicher);
+  EXPECT_EQ(Inhalt(kabel), Inhalt(v.daten + "/Kabel.txt"_L1));
+  EXPECT_EQ(Inhalt(ordner.filePath(u"TIPOFDAY.TXT"_s)), Inhalt(v.daten + "/TIPOFDAY.TXT"_L1));
+  EXPECT_EQ(Inhalt(eigene.fileName()), "") << "die des Benutzers bleibt";
+  EXPECT_FALSE(eigene.permissions() & QFile::WriteOwner);
+
+  ASSERT_TRUE(QFile::remove(kabel) && eigene.remove());
+  MitgelieferteKopieren(v, speicher);
+  EXPECT_EQ(QDir(v.programm).entryList(QDir::Files), QStringList(u"TIPOFDAY.TXT"_s))
+      << "gelöscht bleibt gelöscht";
 }
 
 }  // namespace

@@ -1,42 +1,27 @@
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
+#include <algorithm>
+#include <set>
 
-#include "Itemleser.h"
-#include "Windows1252.h"
+#include "persistence/Itemleser.h"
+#include "persistence/Tips.h"
+#include "station/Text.h"
+#include "tests/Tabelle.h"
+#include "tests/persistence/Ordner.h"
 
 namespace vesk {
 namespace {
 
 TEST(Itemleser, Items) {
-  using Items = std::vector<std::string>;
-  const std::pair<const char*, Items> faelle[] = {
-      {"", {}},
-      {" \r\n\r\n ", {}},
-      {"a,b\r\nc\nd", {"a", "b", "c", "d"}},
-      {" a b , \tc\t\r\n", {"a b", "c"}},
-      {"\" a \",\"b,c\"\r\n", {" a ", "b,c"}},
-      {"a,,b\r\n\r\nc\r\n\r\n", {"a", "", "b", "", "c"}},
-      {"\"\",\"\"", {"", ""}},
-      {"a,", {"a"}},
-      {"\"a\" ,b", {"a", "b"}},
-      {"\"Haus \"Erika\" 5\",b", {"Haus ", "b"}},
-      {"\"a\r\nb\",c", {"a\r\nb", "c"}},
-      {"\"a\r\n\",c", {"a\r\n", "c"}},
-      {"\"offen\r\n\"b\"\r\nc", {"offen", "b", "c"}},
-      {"\"offen\r\n\"\"\r\nc", {"offen", "", "c"}},
-      {"\"offen, auch hier\r\n  \"b\",c", {"offen, auch hier", "b", "c"}},
-      {"a\r\n\"offen", {"a", "offen"}},
-      {"\"", {""}},
-      {"a\"b,c", {"a\"b", "c"}},
-  };
-  for (const auto& [bytes, soll] : faelle) {
-    Itemleser leser{bytes};
-    Items ist;
-    while (const auto item = leser.Naechstes()) ist.emplace_back(*item);
-    EXPECT_EQ(ist, soll) << bytes;
-    EXPECT_TRUE(leser.AmEnde());
+  for (const Tabellenzeile& zeile : Tabelle("persistence/Items.csv")) {
+    for (const char* zeilenende : {"\n", "\r\n"}) {
+      const std::string bytes = Ersetzt(zeile["datei"], "\n", zeilenende);
+      Itemleser leser{bytes};
+      std::string items;
+      while (const auto item = leser.Naechstes()) items += '<' + std::string(*item) + '>';
+      EXPECT_EQ(Ersetzt(items, "\r", ""), zeile["items"]) << zeile.text;
+      EXPECT_TRUE(leser.AmEnde());
+    }
   }
 }
 
@@ -44,14 +29,13 @@ TEST(Windows1252, AlleBytesHinUndZurueck) {
   std::string alle;
   for (int byte = 0; byte < 256; ++byte) alle += static_cast<char>(byte);
   const std::string utf8 = NachUtf8(alle);
-  EXPECT_TRUE(IstUtf8(utf8));
   EXPECT_EQ(Zeichenzahl(utf8), 256U);
   EXPECT_EQ(NachWindows1252(utf8), alle);
+  EXPECT_EQ(utf8.substr(128, 85), "€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ\u00A0¡");
 }
 
 TEST(Windows1252, WasFehltWirdFragezeichen) {
   const std::pair<const char*, const char*> faelle[] = {
-      {"äöüß€", "\xE4\xF6\xFC\xDF\x80"},
       {"Ω=1", "?=1"},
       {"😀!", "?!"},
       {"\xC2\x80", "?"},             // U+0080 is no character of Windows-1252, its byte is the euro sign
@@ -65,6 +49,29 @@ TEST(Windows1252, WasFehltWirdFragezeichen) {
   for (const auto& [utf8, bytes] : faelle) EXPECT_EQ(NachWindows1252(utf8), bytes) << utf8;
   EXPECT_FALSE(IstUtf8("abc"));
   EXPECT_FALSE(IstUtf8("\xE4 ndern"));
+}
+
+TEST(Tips, Zeilen) {
+  const std::pair<std::string, std::vector<std::string>> faelle[] = {
+      {"", {}},
+      {" \r\n\t\r\n\n", {}},
+      {"eins\r\nzwei\r\n", {"eins", "zwei"}},
+      {"\n eins \n\nzwei", {"eins", "zwei"}},
+      {"gr\xFC\xDF dich\r\n\x84hm\x93", {"grüß dich", "„hm“"}},
+      {"grüß dich\n", {"grüß dich"}},
+      {"\xEF\xBB\xBFgrüß\n", {"grüß"}},
+      {std::string("a\0b\n", 4), {std::string("a\0b", 3)}},
+  };
+  for (const auto& [datei, tips] : faelle) EXPECT_EQ(TipsLesen(datei), tips) << datei;
+}
+
+TEST(Tips, MitgelieferteDatei) {
+  const std::string bytes = Inhalt(VESK_DATEN "/TIPOFDAY.TXT");
+  const std::vector<std::string> tips = TipsLesen(bytes);
+  EXPECT_GE(tips.size(), 25U);
+  EXPECT_EQ(std::set<std::string>(tips.begin(), tips.end()).size(), tips.size());
+  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), std::ssize(tips));
+  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), std::ssize(tips)) << "CR LF";
 }
 
 }  // namespace

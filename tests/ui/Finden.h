@@ -1,9 +1,7 @@
 #pragma once
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QObject>
-#include <QStringList>
+#include <QtWidgets>
 #include <stdexcept>
 
 namespace vesk {
@@ -21,6 +19,14 @@ T& Finden(const QObject& wurzel, const QString& name) {
   namen.sort();
   throw std::runtime_error("Kein \"" + name.toStdString() + "\" in " + wurzel.objectName().toStdString() +
                            ": " + namen.join(QLatin1Char(' ')).toStdString());
+}
+
+/// What the user sees behind the text of a control.
+inline QColor Hintergrundfarbe(const QWidget& widget) {
+  QPalette::ColorRole rolle = QPalette::Window;
+  if (qobject_cast<const QLineEdit*>(&widget) != nullptr) rolle = QPalette::Base;
+  if (qobject_cast<const QAbstractButton*>(&widget) != nullptr) rolle = QPalette::Button;
+  return widget.palette().color(rolle);
 }
 
 }  // namespace vesk

@@ -1,4 +1,4 @@
-#include "Auswahlliste.h"
+#include "ui/basis/Auswahlliste.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

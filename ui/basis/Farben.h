@@ -1,8 +1,6 @@
 #pragma once
 #include <QColor>
 
-class QWidget;
-
 namespace vesk {
 
 /// Colour from 0xBBGGRR, the byte order in which the program's colours are told.
@@ -21,19 +19,10 @@ inline constexpr QColor HellCyan = BGR(0xFFFFC0);      ///< distance and powers 
 inline constexpr QColor Grau = BGR(0xC0C0C0);          ///< not defined at this frequency
 inline constexpr QColor HellGrau = BGR(0xE0E0E0);      ///< neutral outputs
 inline constexpr QColor Nahfeld = BGR(0xFF80FF);       ///< inside the near field
+inline constexpr QColor Veraltet = BGR(0x606060);      ///< text of figures that are out of date
 inline constexpr QColor HellViolett = BGR(0xFFC0FF);   ///< required personal data
 inline constexpr QColor Spaltenmarke = BGR(0x80FF80);  ///< head of the current column
 inline constexpr QColor Tuerkis = BGR(0xC0C000);       ///< text of a column computed backwards
 }  // namespace farben
-
-/// Background through the palette (Base of fields, Window of labels) with black text on it, so that pale
-/// colours stay readable in a dark theme.
-void Hintergrund(QWidget& widget, const QColor& farbe);
-/// Background (and text colour) of the theme again.
-void HintergrundDesThemas(QWidget& widget);
-/// The background that was set last, or the theme's.
-QColor Hintergrundfarbe(const QWidget& widget);
-/// Text colour through the palette.
-void Textfarbe(QWidget& widget, const QColor& farbe);
 
 }  // namespace vesk

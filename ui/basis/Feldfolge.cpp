@@ -1,17 +1,26 @@
-#include "Feldfolge.h"
+#include "ui/basis/Feldfolge.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
-#include "Tastenfilter.h"
-
 namespace vesk {
 
-Feldfolge::Feldfolge(Rechenwerte& werte, std::vector<QWidget*> felder, QObject* eltern)
-    : QObject(eltern), werte_(werte), felder_(std::move(felder)) {
+namespace {
+
+template <typename Stelle>
+void ErstesErreichbare(Stelle von, Stelle bis, Qt::FocusReason grund) {
+  const auto erreichbar = [](const QWidget* feld) { return feld->isEnabled() && feld->isVisible(); };
+  const auto ziel = std::find_if(von, bis, erreichbar);
+  if (ziel != bis) (*ziel)->setFocus(grund);
+}
+
+}  // namespace
+
+Feldfolge::Feldfolge(std::vector<QWidget*> felder, QObject* eltern, Folgetasten tasten)
+    : QObject(eltern), felder_(std::move(felder)), tasten_(tasten) {
   QWidget* vorher = nullptr;
   for (QWidget* feld : felder_) {
     feld->installEventFilter(this);
@@ -24,22 +33,36 @@ bool Feldfolge::eventFilter(QObject* objekt, QEvent* ereignis) {
   if (ereignis->type() != QEvent::KeyPress) return false;
   const auto* taste = static_cast<QKeyEvent*>(ereignis);
   if ((taste->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
-  const bool enter = taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter;
-  if (!enter && taste->key() != Qt::Key_Down && taste->key() != Qt::Key_Up) return false;
-  if (enter && qobject_cast<QAbstractButton*>(objekt) != nullptr) return false;
-
-  // The field never sees the key, so the filter hears of Enter here.
-  if (enter) KeyPress('\r', werte_);
-  const auto erreichbar = [](const QWidget* feld) { return feld->isEnabled() && feld->isVisible(); };
-  const auto hier = std::find(felder_.begin(), felder_.end(), objekt);
-  if (taste->key() == Qt::Key_Up) {
-    const auto ziel = std::find_if(std::make_reverse_iterator(hier), felder_.rend(), erreichbar);
-    if (ziel != felder_.rend()) (*ziel)->setFocus(Qt::OtherFocusReason);
-  } else {
-    const auto ziel = std::find_if(hier + 1, felder_.end(), erreichbar);
-    if (ziel != felder_.end()) (*ziel)->setFocus(Qt::OtherFocusReason);
+  switch (taste->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (tasten_ != Folgetasten::EnterAufAb) return false;
+      if (taste->isAutoRepeat()) return true;
+      if (auto* knopf = qobject_cast<QPushButton*>(objekt)) {
+        knopf->click();
+      } else {
+        Wechseln(objekt, true);
+      }
+      return true;
+    case Qt::Key_Down:
+      if (tasten_ == Folgetasten::Auf) return false;
+      Wechseln(objekt, true);
+      return true;
+    case Qt::Key_Up:
+      Wechseln(objekt, false);
+      return true;
+    default:
+      return false;
   }
-  return true;
+}
+
+void Feldfolge::Wechseln(const QObject* von, bool vor) const {
+  const auto hier = std::find(felder_.begin(), felder_.end(), von);
+  if (vor) {
+    ErstesErreichbare(std::next(hier), felder_.end(), Qt::TabFocusReason);
+  } else {
+    ErstesErreichbare(std::make_reverse_iterator(hier), felder_.rend(), Qt::BacktabFocusReason);
+  }
 }
 
 }  // namespace vesk

@@ -6,21 +6,25 @@ class QWidget;
 
 namespace vesk {
 
-struct Rechenwerte;
+/// Keys that lead on; the others are the field's own.
+enum class Folgetasten { EnterAufAb, AufAb, Auf };
 
-/// Enter and cursor down go to the next field of a list, cursor up to the previous one; at the ends the focus
-/// stays. On a button Enter keeps pressing it. It belongs to `eltern`, which holds the fields.
+/// Tab, Enter and cursor down go to the next field of a list, cursor up to the previous one, and select its
+/// text; at the ends the focus stays. Fields that are disabled or hidden are passed over. Enter presses a
+/// push button. A held Enter counts once. It belongs to `eltern`, which holds the fields.
 class Feldfolge : public QObject {
   Q_OBJECT
  public:
-  Feldfolge(Rechenwerte& werte, std::vector<QWidget*> felder, QObject* eltern);
+  Feldfolge(std::vector<QWidget*> felder, QObject* eltern, Folgetasten tasten = Folgetasten::EnterAufAb);
 
  protected:
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
  private:
-  Rechenwerte& werte_;
+  void Wechseln(const QObject* von, bool vor) const;
+
   std::vector<QWidget*> felder_;
+  Folgetasten tasten_;
 };
 
 }  // namespace vesk

@@ -1,4 +1,4 @@
-#include "Feldhilfe.h"
+#include "ui/basis/Feldhilfe.h"
 
 #include <QString>
 #include <QWidget>
@@ -27,28 +27,18 @@ struct Controlname {
   int index = 0;
 };
 
-template <typename Tun>
-void JeTreffer(QWidget& fenster, std::span<const Feldhilfe> tabelle, Tun tun) {
-  for (QWidget* kind : fenster.findChildren<QWidget*>()) {
-    const Controlname name(kind->objectName());
-    for (const Feldhilfe& zeile : tabelle) {
-      if (name.Heisst(zeile.name, zeile.teiler, zeile.rest)) tun(*kind, zeile.text.toString());
-    }
-  }
-}
-
 }  // namespace
 
 void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool an) {
-  JeTreffer(fenster, tabelle, [an](QWidget& kind, const QString& text) {
-    kind.setToolTip(an ? text : QString());
-    kind.setAccessibleDescription(text);
-  });
-}
-
-void BeschreibungenSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle) {
-  JeTreffer(fenster, tabelle,
-            [](QWidget& kind, const QString& text) { kind.setAccessibleDescription(text); });
+  for (QWidget* kind : fenster.findChildren<QWidget*>()) {
+    const Controlname name(kind->objectName());
+    for (const Feldhilfe& zeile : tabelle) {
+      if (!name.Heisst(zeile.name, zeile.teiler, zeile.rest)) continue;
+      const QString text = zeile.text.toString();
+      if (const QString tip = an ? text : QString(); kind->toolTip() != tip) kind->setToolTip(tip);
+      if (kind->accessibleDescription() != text) kind->setAccessibleDescription(text);
+    }
+  }
 }
 
 void HilfenummernSetzen(QWidget& fenster, std::span<const Hilfenummer> tabelle) {

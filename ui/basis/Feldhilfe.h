@@ -19,8 +19,6 @@ struct Feldhilfe {
 /// Writes the table's texts to the controls of `fenster`, or empties exactly those tooltips. Screen readers
 /// are told them in both cases.
 void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool an);
-/// Only what screen readers are told.
-void BeschreibungenSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle);
 
 /// One row of a window's table of help context numbers.
 struct Hilfenummer {

@@ -1,17 +1,43 @@
-#include "Filterfeld.h"
+#include "ui/basis/Filterfeld.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
-#include <QGuiApplication>
+#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
 
+#include "platform/Plattform.h"
+
 namespace vesk {
+
+Filterfeld::Filterfeld(Signalton& ton, QWidget* eltern) : QLineEdit(eltern), ton_(ton) {
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* jetzt) { FokusGewechselt(jetzt); });
+}
+
+void Filterfeld::focusInEvent(QFocusEvent* ereignis) {
+  QLineEdit::focusInEvent(ereignis);
+  if (betreten_) return;
+  betreten_ = true;
+  Q_EMIT betreten();
+}
+
+void Filterfeld::FokusGewechselt(const QWidget* jetzt) {
+  if (!betreten_ || jetzt == nullptr || jetzt == this) return;
+  // Menus, boxes and dialogs take the focus only for a while.
+  if (qobject_cast<const QMenuBar*>(jetzt) != nullptr || qobject_cast<const QMenu*>(jetzt) != nullptr) return;
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (modal != nullptr && modal != window()) return;
+  betreten_ = false;
+  Q_EMIT verlassen();
+}
 
 bool Filterfeld::FreieZugriffstaste(const QKeyEvent& ereignis) {
   const bool mitAlt = (ereignis.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0;
@@ -25,7 +51,7 @@ void Filterfeld::keyPressEvent(QKeyEvent* ereignis) {
     return;
   }
   if (ereignis->matches(QKeySequence::Paste)) {
-    Einfuegen(QGuiApplication::clipboard()->text());
+    Einfuegen(QApplication::clipboard()->text());
     return;
   }
   QLineEdit::keyPressEvent(ereignis);
@@ -43,8 +69,8 @@ void Filterfeld::inputMethodEvent(QInputMethodEvent* ereignis) {
 }
 
 void Filterfeld::mouseReleaseEvent(QMouseEvent* ereignis) {
-  if (ereignis->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection()) {
-    Einfuegen(QGuiApplication::clipboard()->text(QClipboard::Selection));
+  if (ereignis->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection()) {
+    Einfuegen(QApplication::clipboard()->text(QClipboard::Selection));
     return;
   }
   QLineEdit::mouseReleaseEvent(ereignis);
@@ -60,7 +86,7 @@ void Filterfeld::contextMenuEvent(QContextMenuEvent* ereignis) {
   for (QAction* aktion : aktionen) {
     if (!aktion->text().startsWith(beschriftung)) continue;
     disconnect(aktion, nullptr, this, nullptr);
-    connect(aktion, &QAction::triggered, this, [this] { Einfuegen(QGuiApplication::clipboard()->text()); });
+    connect(aktion, &QAction::triggered, this, [this] { Einfuegen(QApplication::clipboard()->text()); });
   }
   menue->popup(ereignis->globalPos());
 }
@@ -77,6 +103,10 @@ void Filterfeld::Einfuegen(const QString& text) {
   if (isReadOnly()) return;
   const QString rest = Filtern(text);
   if (!rest.isEmpty()) insert(rest);
+}
+
+void Filterfeld::Piep() {
+  ton_.Piep();
 }
 
 }  // namespace vesk

@@ -1,4 +1,4 @@
-#include "Klicklabel.h"
+#include "ui/basis/Klicklabel.h"
 
 #include <QMouseEvent>
 

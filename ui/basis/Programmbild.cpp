@@ -1,4 +1,4 @@
-#include "Programmbild.h"
+#include "ui/basis/Programmbild.h"
 
 #include <QPainter>
 

@@ -1,9 +1,8 @@
-#include "Textfeld.h"
+#include "ui/basis/Textfeld.h"
 
 #include <QKeyEvent>
 
-#include "Plattform.h"
-#include "Windows1252.h"
+#include "station/Text.h"
 
 namespace vesk {
 
@@ -19,8 +18,6 @@ bool IstSteuerzeichen(QChar zeichen) {
 }
 
 }  // namespace
-
-Textfeld::Textfeld(Signalton& ton, QWidget* eltern) : Filterfeld(eltern), ton_(ton) {}
 
 void Textfeld::keyPressEvent(QKeyEvent* ereignis) {
   const QString text = ereignis->text();
@@ -39,17 +36,17 @@ void Textfeld::keyPressEvent(QKeyEvent* ereignis) {
 
 QString Textfeld::Filtern(const QString& text) {
   QString rest;
-  bool piep = false;
+  bool verweigert = false;
   for (QChar zeichen : text.size() > 1 ? text.trimmed() : text) {
     if (IstSteuerzeichen(zeichen)) zeichen = u' ';
     if (zeichen == u',' && kommaWirdPunkt) zeichen = u'.';
     if (Schreibbar(zeichen)) {
       rest += zeichen;
     } else {
-      piep = true;
+      verweigert = true;
     }
   }
-  if (piep) ton_.Piep();
+  if (verweigert) Piep();
   return rest;
 }
 

@@ -1,9 +1,7 @@
 #pragma once
-#include "Filterfeld.h"
+#include "ui/basis/Filterfeld.h"
 
 namespace vesk {
-
-class Signalton;
 
 /// Input field for free text that goes into the user's file: it takes what Windows-1252 can write except the
 /// double quote, which encloses the texts there. Anything else is refused with a beep; line breaks and tabs
@@ -11,7 +9,7 @@ class Signalton;
 class Textfeld : public Filterfeld {
   Q_OBJECT
  public:
-  explicit Textfeld(Signalton& ton, QWidget* eltern = nullptr);
+  using Filterfeld::Filterfeld;
 
   /// A comma that the user enters becomes a point.
   bool kommaWirdPunkt = false;
@@ -19,9 +17,6 @@ class Textfeld : public Filterfeld {
  protected:
   void keyPressEvent(QKeyEvent* ereignis) override;
   QString Filtern(const QString& text) override;
-
- private:
-  Signalton& ton_;
 };
 
 }  // namespace vesk

@@ -1,38 +1,58 @@
-#include "Zahlenfeld.h"
+#include "ui/basis/Zahlenfeld.h"
 
-#include <QApplication>
-#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMouseEvent>
-
-#include "Plattform.h"
-#include "Rechenwerte.h"
-#include "Tastenfilter.h"
+#include <QRegularExpression>
 
 namespace vesk {
 
-Zahlenfeld::Zahlenfeld(Rechenwerte& werte, Signalton& ton, QWidget* eltern)
-    : Filterfeld(eltern), werte_(werte), ton_(ton) {
-  connect(qApp, &QApplication::focusChanged, this,
-          [this](QWidget*, QWidget* jetzt) { FokusGewechselt(jetzt); });
+namespace {
+
+/// The number in a pasted text: blanks around it and a unit behind it ("14,2 MHz", "3 V/m") are left out. No
+/// number, or more than one: empty.
+QString EineZahl(const QString& text) {
+  static const QRegularExpression muster(
+      QStringLiteral(R"(^\s*(-?(?:\d+[.,]?\d*|[.,]\d+))\s*[^\s\d.,+-]*\s*$)"));
+  return muster.match(text).captured(1).replace(u',', u'.');
+}
+
+}  // namespace
+
+QString Zahlenfeld::OhneAuswahl() const {
+  const int von = selectionStart();
+  return von < 0 ? text() : text().remove(von, selectionLength());
+}
+
+int Zahlenfeld::Einfuegestelle() const {
+  return hasSelectedText() ? selectionStart() : cursorPosition();
+}
+
+Filterantwort Zahlenfeld::Pruefen(int zeichen) {
+  const QString rest = OhneAuswahl();
+  const bool vorn = Einfuegestelle() == 0;
+  marken_.MinusErlaubt = vorzeichen_ && vorn && !rest.contains(u'-');
+  const Filterantwort antwort = KeyPress(zeichen, marken_);
+  const bool zweiterPunkt = antwort.zeichen == '.' && rest.contains(u'.');
+  const bool vorDemMinus = antwort.zeichen >= ' ' && vorn && rest.startsWith(u'-');
+  return zweiterPunkt || vorDemMinus ? Filterantwort{0, true} : antwort;
 }
 
 void Zahlenfeld::keyPressEvent(QKeyEvent* ereignis) {
   const QString text = ereignis->text();
   const bool befehl =
       (ereignis->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-  const bool getippt = text.size() == 1 && (text.at(0).isPrint() || text.at(0) == QLatin1Char('\r') ||
-                                            ereignis->key() == Qt::Key_Backspace);
-  if (befehl || !getippt || isReadOnly()) {
+  const bool rueckschritt = ereignis->key() == Qt::Key_Backspace;
+  const bool steuerung =
+      text.isEmpty() || (text.at(0) < u' ' && text.at(0) != u'\r') || text.at(0) == u'\x7F';
+  if (befehl || isReadOnly() || (steuerung && !rueckschritt)) {
     Filterfeld::keyPressEvent(ereignis);
     return;
   }
-  const int code = ereignis->key() == Qt::Key_Backspace ? 8 : text.at(0).unicode();
-  const Filterantwort antwort = KeyPress(code, werte_);
-  if (antwort.piep) ton_.Piep();
+  const int getippt = text.size() == 1 ? text.at(0).unicode() : 0;
+  const int code = rueckschritt ? 8 : getippt;
+  const Filterantwort antwort = Pruefen(code);
+  if (antwort.piep) Piep();
   Q_EMIT gefiltert(antwort.zeichen);
   if (antwort.zeichen == 0) return;
   if (antwort.zeichen == code) {
@@ -44,8 +64,14 @@ void Zahlenfeld::keyPressEvent(QKeyEvent* ereignis) {
 }
 
 void Zahlenfeld::inputMethodEvent(QInputMethodEvent* ereignis) {
-  // Composed characters never show while they are composed; only digits can come of them.
-  if (!ereignis->commitString().isEmpty()) Einfuegen(ereignis->commitString());
+  // Composed characters never show while they are composed; only a number can come of them.
+  const QString& text = ereignis->commitString();
+  if (text.size() == 1) {
+    QKeyEvent taste(QEvent::KeyPress, text.at(0).unicode(), Qt::NoModifier, text);
+    keyPressEvent(&taste);
+  } else if (!text.isEmpty()) {
+    Einfuegen(text);
+  }
 }
 
 void Zahlenfeld::mousePressEvent(QMouseEvent* ereignis) {
@@ -58,35 +84,15 @@ void Zahlenfeld::mouseDoubleClickEvent(QMouseEvent* ereignis) {
   if (ereignis->button() == Qt::LeftButton) Q_EMIT doppelklick();
 }
 
-void Zahlenfeld::focusInEvent(QFocusEvent* ereignis) {
-  Filterfeld::focusInEvent(ereignis);
-  if (betreten_) return;
-  betreten_ = true;
-  Q_EMIT betreten();
-}
-
-void Zahlenfeld::FokusGewechselt(const QWidget* jetzt) {
-  if (!betreten_ || jetzt == nullptr || jetzt == this) return;
-  // Menus, boxes and dialogs take the focus only for a while.
-  if (qobject_cast<const QMenuBar*>(jetzt) != nullptr || qobject_cast<const QMenu*>(jetzt) != nullptr) return;
-  const QWidget* modal = QApplication::activeModalWidget();
-  if (modal != nullptr && modal != window()) return;
-  betreten_ = false;
-  Q_EMIT verlassen();
-}
-
 QString Zahlenfeld::Filtern(const QString& text) {
-  // A minus sign may only lead what is pasted, and only where the field may be negative.
-  QString rest;
-  bool piep = false;
-  for (const QChar zeichen : text.trimmed()) {
-    const bool minusDanach = zeichen == QLatin1Char('-') && !rest.isEmpty();
-    const Filterantwort antwort = minusDanach ? Filterantwort{0, true} : KeyPress(zeichen.unicode(), werte_);
-    piep = piep || antwort.piep;
-    if (antwort.zeichen >= ' ') rest += QChar(antwort.zeichen);
+  QString zahl = EineZahl(text);
+  const bool zweiterPunkt = zahl.contains(u'.') && OhneAuswahl().contains(u'.');
+  // Its first character decides whether the number fits where it goes.
+  if (zahl.isEmpty() || zweiterPunkt || Pruefen(zahl.at(0).unicode()).piep) {
+    Piep();
+    return {};
   }
-  if (piep) ton_.Piep();
-  return rest;
+  return zahl;
 }
 
 }  // namespace vesk

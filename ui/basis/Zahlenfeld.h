@@ -1,17 +1,22 @@
 #pragma once
-#include "Filterfeld.h"
+#include "engine/Tastenfilter.h"
+#include "ui/basis/Filterfeld.h"
 
 namespace vesk {
 
-struct Rechenwerte;
-class Signalton;
-
-/// Input field whose typed and pasted characters pass the key filter, one by one and exactly once.
-/// Comma becomes a point, what the filter swallows is not entered and beeps.
+/// Input field for one number. Typed characters pass the key filter, one by one and exactly once: a comma
+/// becomes a point, what the filter swallows is not entered and beeps. A second point, a second sign and a
+/// sign behind a digit are refused; what counts is the text without the selection, which the key replaces. A
+/// pasted text must be one number, with blanks around it and a unit behind it at most, or it is refused
+/// whole.
 class Zahlenfeld : public Filterfeld {
   Q_OBJECT
  public:
-  Zahlenfeld(Rechenwerte& werte, Signalton& ton, QWidget* eltern = nullptr);
+  using Filterfeld::Filterfeld;
+
+  /// Whether the number may be negative.
+  void VorzeichenErlauben(bool erlaubt) { vorzeichen_ = erlaubt; }
+  Tastenmarken& marken() { return marken_; }
 
  Q_SIGNALS:
   /// A mouse press of the user with any button, before the cursor is placed.
@@ -21,25 +26,21 @@ class Zahlenfeld : public Filterfeld {
   /// A typed character has passed the filter; `zeichen` is what came back (0: swallowed). Emitted before the
   /// field takes it, so that a receiver may still clear the field.
   void gefiltert(int zeichen);
-  /// The focus came from, or went to, another control or another window of the program. A menu, a message
-  /// box, a file dialog or another program that takes the focus for a while is no leaving.
-  void betreten();
-  void verlassen();
 
  protected:
   void keyPressEvent(QKeyEvent* ereignis) override;
   void inputMethodEvent(QInputMethodEvent* ereignis) override;
   void mousePressEvent(QMouseEvent* ereignis) override;
   void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
-  void focusInEvent(QFocusEvent* ereignis) override;
   QString Filtern(const QString& text) override;
 
  private:
-  void FokusGewechselt(const QWidget* jetzt);
+  QString OhneAuswahl() const;
+  int Einfuegestelle() const;
+  Filterantwort Pruefen(int zeichen);
 
-  bool betreten_ = false;
-  Rechenwerte& werte_;
-  Signalton& ton_;
+  bool vorzeichen_ = false;
+  Tastenmarken marken_;
 };
 
 }  // namespace vesk

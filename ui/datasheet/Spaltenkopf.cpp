@@ -1,10 +1,11 @@
-#include "Spaltenkopf.h"
+#include "ui/datasheet/Spaltenkopf.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
-#include "Farben.h"
+#include "ui/basis/Anzeige.h"
+#include "ui/basis/Farben.h"
 
 namespace vesk {
 
@@ -17,13 +18,14 @@ Spaltenkopf::Spaltenkopf(QWidget* eltern) : Klicklabel(eltern) {
 }
 
 void Spaltenkopf::Markieren(bool aktuell) {
+  if (aktuell == (frameShape() == QFrame::Box)) return;
   setFrameStyle(aktuell ? int(QFrame::Box) | int(QFrame::Plain) : int(QFrame::NoFrame));
   setLineWidth(1);
   setMargin(aktuell ? 1 : 2);  // the border takes the place of the margin: nothing moves
   if (aktuell) {
-    Hintergrund(*this, farben::Spaltenmarke);
+    Faerben(*this, farben::Spaltenmarke);
   } else {
-    HintergrundDesThemas(*this);
+    ThemaFaerben(*this);
   }
 }
 

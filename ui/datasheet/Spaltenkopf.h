@@ -1,5 +1,5 @@
 #pragma once
-#include "Klicklabel.h"
+#include "ui/basis/Klicklabel.h"
 
 namespace vesk {
 

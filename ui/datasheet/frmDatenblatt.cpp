@@ -1,6 +1,5 @@
-#include "frmDatenblatt.h"
+#include "ui/datasheet/frmDatenblatt.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -11,17 +10,18 @@
 #include <QPushButton>
 #include <QScreen>
 #include <cmath>
-#include <string>
 
-#include "Datenblatt.h"
-#include "Datenblatthilfe.h"
-#include "Farben.h"
-#include "Meldung.h"
-#include "Spaltenkopf.h"
-#include "UserDatei.h"
-#include "Zahlen.h"
-#include "Zelle.h"
-#include "Zustand.h"
+#include "engine/Zahlen.h"
+#include "station/Datenblatt.h"
+#include "station/Operator.h"
+#include "station/Spalten.h"
+#include "ui/basis/Anzeige.h"
+#include "ui/basis/Farben.h"
+#include "ui/basis/Feldfolge.h"
+#include "ui/basis/Feldhilfe.h"
+#include "ui/basis/Menue.h"
+#include "ui/datasheet/Spaltenkopf.h"
+#include "ui/datasheet/Zellenfeld.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,39 +29,78 @@ namespace vesk {
 
 namespace {
 
+constexpr QStringView SpaeterDrucken = u"Das Drucken kommt mit einer späteren Version.";
+
+constexpr std::array<Menueeintrag, 14> Menue = {{
+    {u"mnuDateiLaden", u"Datenblatt &Laden", Befehlend<Befehl::DateiLaden>},
+    {u"mnuDateiSpeichern", u"Datenblatt &Speichern", Befehlend<Befehl::DateiSpeichern>},
+    {u"mnuDateiSpeichernUnter", u"Datenblatt speichern &Unter", Befehlend<Befehl::DateiSpeichernUnter>},
+    {},
+    {u"mnuDelete", u"Datenblatt l&öschen", Tuend<DatenblattLoeschen>},
+    {u"mnuNoChange", u"Änderungen &rückgängig machen", Befehlend<Befehl::AenderungenVerwerfen>},
+    {u"mnuSpalteKopieren", u"Spalte &kopieren", Tuend<SpalteKopieren>},
+    {},
+    {u"mnuFormblattDrucken", u"Formblatt &drucken", nullptr, SpaeterDrucken},
+    {u"mnuFormblattRegTPdrucken", u"Formblatt Reg&TP drucken", nullptr, SpaeterDrucken},
+    {u"mnuDruckerEinrichten", u"Drucker &einrichten", nullptr, SpaeterDrucken},
+    {},
+    {u"mnuBeenden", u"Datenblatt s&chließen", Tuend<DatenblattSchliessen>},
+    {u"mnuEnde", u"Programm &Beenden", Befehlend<Befehl::Beenden>},
+}};
+
+constexpr Feldhilfe Zeilenhilfe(Zeile zeile, QStringView text) {
+  return {u"txtA", text, AnzahlZeilen, zeile - 1};
+}
+
+constexpr Feldhilfe Tooltips[] = {
+    {u"lblSpalte", u"Linke Taste berechnet die Spalte, rechte Taste löscht die Spalte"},
+    Zeilenhilfe(ZeileHoehe, u"Montagehöhe der Sendeantennenunterkante über Grund [m]"),
+    Zeilenhilfe(
+        ZeileRichtung,
+        u"Rundstrahler = ND; rundum betriebener Richtstrahler = ND; sonst Strahlungsrichtung in Grad"),
+    Zeilenhilfe(ZeileFrequenz, u"Amateurfunkband in MHz eingeben"),
+    Zeilenhilfe(ZeileBetriebsarten, u"Betriebsarten: cw ssb am fm pr atv gsm alle"),
+    Zeilenhilfe(ZeileVerluste, u"Kabelverluste einfach im Optionsmenü Kabel berechnen"),
+    Zeilenhilfe(ZeileGewinn, u"Antennengewin in dBi eingeben! (dBi = dBd + 2,15) (Optionsmenü Antennen)"),
+    Zeilenhilfe(ZeileWinkel, u"Winkeldämpfung in dB eingeben! (Doppelklick im Optionsmenü Winkel)"),
+};
+
+constexpr Hilfenummer Hilfenummern[] = {
+    {u"lblSpalte", 2001}, {u"txtA", 2002},       {u"chkOptionen", 2003},
+    {u"lblModIdx", 2004}, {u"cmdRechnen", 2005},
+};
+
 QString Text(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
-std::size_t Index(std::int16_t spalte, std::int16_t zeile) {
-  return static_cast<std::size_t>(Gitterindex(spalte, zeile));
-}
-
-const QColor& Faktorfarbe(float faktor) {
-  return faktor < 1.0F ? farben::Gruen : farben::HellGruen;
-}
-
-/// A record may hold a number beyond all bounds; like every factor above 1 it does not count.
-QString Faktortext(float faktor) {
-  return u"Faktor für Sendeart: "_s + Text(Formatieren(std::isfinite(faktor) ? faktor : 1.0F));
+QColor Grundfarbe(const Spaltenfarben& spalte, int zeile) {
+  if (zeile == ZeileOhneHSM) {
+    if (spalte.ohneHSM == Toenung::Keine) return farben::Weiss;
+    return spalte.ohneHSM == Toenung::Blass ? farben::HellGruen : farben::Gruen;
+  }
+  if (zeile < ZeileOhneHSM || !spalte.hsm) return farben::Weiss;
+  return zeile == ZeileHSM306 ? farben::HellRot : farben::HellGelb;
 }
 
 }  // namespace
 
-frmDatenblatt::frmDatenblatt(Zustand& zustand, Plattform& plattform, QWidget* eltern)
-    : QMainWindow(eltern), zustand_(zustand), plattform_(plattform) {
+frmDatenblatt::frmDatenblatt(Ablauf& ablauf, Signalton& ton, QWidget* eltern)
+    : QMainWindow(eltern), ablauf_(ablauf) {
   setObjectName(u"frmDatenblatt"_s);
   setWindowTitle(u"Datenblatt  Vfg 306/97 Anlage Blatt 5.2"_s);
-  MenueAnlegen();
+  QMenu* menue = menuBar()->addMenu(u"&Datei"_s);
+  menue->setObjectName(u"mnuDatei"_s);
+  MenueFuellen(*menue, Menue, ablauf_);
 
   auto* flaeche = new QWidget(this);
   auto* gitter = new QGridLayout(flaeche);
   gitter->setHorizontalSpacing(fontMetrics().averageCharWidth() / 2);
   gitter->setVerticalSpacing(fontMetrics().height() / 8);
-  for (std::int16_t spalte = 1; spalte <= AnzahlSpalten; ++spalte) SpalteAnlegen(*gitter, spalte);
-  for (std::int16_t zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
+  for (int spalte = 1; spalte <= AnzahlSpalten; ++spalte) SpalteAnlegen(*gitter, spalte, ton);
+  for (int zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
     auto* beschriftung = new QLabel(Text(Zeilenarten[std::size_t(zeile) - 1].beschriftung), flaeche);
-    beschriftung->setBuddy(txtA[Index(1, zeile)]);
+    beschriftung->setBuddy(txtA[Zellenindex(1, Zeile(zeile))]);
     gitter->addWidget(beschriftung, zeile, 0);
   }
   gitter->addWidget(OptionsrahmenAnlegen(), AnzahlZeilen + 1, 0, 1, AnzahlSpalten + 1);
@@ -69,88 +108,44 @@ frmDatenblatt::frmDatenblatt(Zustand& zustand, Plattform& plattform, QWidget* el
   setCentralWidget(flaeche);
   resize(sizeHint().boundedTo(screen()->availableSize()));
 
-  HilfenummernSetzen(*this, DatenblattHilfenummern);
+  HilfenummernSetzen(*this, Hilfenummern);
   txtA[0]->setFocus();
 }
 
-void frmDatenblatt::MenueAnlegen() {
-  struct Eintrag {
-    QStringView name;
-    QStringView beschriftung;
-    void (frmDatenblatt::*tun)();
-    bool druck = false;
-  };
-  static constexpr std::array<Eintrag, 14> eintraege = {{
-      {u"mnuDateiLaden", u"Datenblatt &Laden", &frmDatenblatt::dateiLaden},
-      {u"mnuDateiSpeichern", u"Datenblatt &Speichern", &frmDatenblatt::dateiSpeichern},
-      {u"mnuDateiSpeichernUnter", u"Datenblatt speichern &Unter", &frmDatenblatt::dateiSpeichernUnter},
-      {},
-      {u"mnuDelete", u"Datenblatt l&öschen", &frmDatenblatt::mnuDelete_Click},
-      {u"mnuNoChange", u"Änderungen &rückgängig machen", &frmDatenblatt::noChange},
-      {u"mnuSpalteKopieren", u"Spalte &kopieren", &frmDatenblatt::mnuSpalteKopieren_Click},
-      {},
-      {u"mnuFormblattDrucken", u"Formblatt &drucken", &frmDatenblatt::formblattDrucken, true},
-      {u"mnuFormblattRegTPdrucken", u"Formblatt Reg&TP drucken", &frmDatenblatt::formblattRegTPdrucken, true},
-      {u"mnuDruckerEinrichten", u"Drucker &einrichten", &frmDatenblatt::druckerEinrichten, true},
-      {},
-      {u"mnuBeenden", u"Datenblatt s&chließen", &frmDatenblatt::mnuBeenden_Click},
-      {u"mnuEnde", u"Programm &Beenden", &frmDatenblatt::ende},
-  }};
-  QMenu* menue = menuBar()->addMenu(u"&Datei"_s);
-  menue->setObjectName(u"mnuDatei"_s);
-  menue->setToolTipsVisible(true);
-  for (const Eintrag& eintrag : eintraege) {
-    if (eintrag.tun == nullptr) {
-      menue->addSeparator();
-      continue;
-    }
-    QAction* aktion = menue->addAction(eintrag.beschriftung.toString());
-    aktion->setObjectName(eintrag.name.toString());
-    connect(aktion, &QAction::triggered, this, [this, tun = eintrag.tun] { (this->*tun)(); });
-    if (eintrag.druck) {
-      aktion->setEnabled(false);
-      aktion->setToolTip(u"Das Drucken kommt mit einer späteren Version."_s);
-    }
-  }
-}
-
-void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, std::int16_t spalte) {
+void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, int spalte, Signalton& ton) {
   QWidget* flaeche = gitter.parentWidget();
-  const QString name = u"Spalte "_s + QLatin1Char(Spaltenbuchstabe(spalte));
+  const QString buchstabe = QChar::fromLatin1(Spaltenbuchstabe(std::int16_t(spalte)));
   auto* kopf = new Spaltenkopf(flaeche);
   kopf->setObjectName(u"lblSpalte_"_s + QString::number(spalte - 1));
-  kopf->setText(QString(QLatin1Char(Spaltenbuchstabe(spalte))));
-  kopf->setAccessibleName(name);
+  kopf->setText(buchstabe);
+  kopf->setAccessibleName(u"Spalte "_s + buchstabe);
   kopf->setAccessibleDescription(u"Eingabetaste berechnet die Spalte, Entfernen löscht die Spalte"_s);
-  kopf->Markieren(false);
-  connect(kopf, &Spaltenkopf::geklickt, this,
-          [this, spalte](Qt::MouseButton taste) { KopfDruecken(spalte, taste); });
+  connect(kopf, &Spaltenkopf::geklickt, this, [this, spalte](Qt::MouseButton taste) {
+    ablauf_.Tun(Mit(taste == Qt::LeftButton ? KopfGeklickt : SpalteLoeschen, spalte));
+  });
   lblSpalte[std::size_t(spalte) - 1] = kopf;
   gitter.addWidget(kopf, 0, spalte);
   gitter.setColumnStretch(spalte, 1);
 
-  const int breite = fontMetrics().averageCharWidth() * 9;
-  for (std::int16_t zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
+  std::vector<QWidget*> folge;
+  for (int zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
     const Zeilenart& art = Zeilenarten[std::size_t(zeile) - 1];
-    const std::size_t index = Index(spalte, zeile);
-    auto* zelle = new Zelle(plattform_.ton, flaeche);
+    const std::size_t index = Zellenindex(spalte, Zeile(zeile));
+    auto* zelle = new Zellenfeld(ton, flaeche);
     zelle->setObjectName(u"txtA_"_s + QString::number(index));
-    zelle->setAccessibleName(name + u", "_s + Text(art.beschriftung));
+    zelle->setAccessibleName(u"Spalte "_s + buchstabe + u", "_s + Text(art.beschriftung));
     zelle->setMaxLength(int(MaxZellenlaenge));
-    zelle->setMinimumWidth(breite);
+    zelle->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
     zelle->kommaWirdPunkt = art.numerisch;
-    zelle->Faerben(farben::Weiss, Qt::black);
-    connect(zelle, &Zelle::textChanged, this, [this, index] { ZelleGeaendert(index); });
-    connect(zelle, &Zelle::zeilenwechsel, this,
-            [this, index](int schritt) { ZeileWechseln(index, schritt); });
-    connect(zelle, &Zelle::geklickt, this, [this, spalte] {
-      SpalteWaehlen(spalte);
-      Q_EMIT zelleGeklickt();
+    connect(zelle, &QLineEdit::textEdited, this, [this, index](const QString& text) {
+      ablauf_.Tun(Mit(ZelleGetippt, index, text.toStdString()));
     });
+    connect(zelle, &Zellenfeld::geklickt, this, [this, spalte] { ablauf_.Tun(Mit(ZelleGeklickt, spalte)); });
     txtA[index] = zelle;
+    folge.push_back(zelle);
     gitter.addWidget(zelle, zeile, spalte);
   }
-  SpalteToenen(spalte, 1.0F);
+  new Feldfolge(folge, this);
 }
 
 QWidget* frmDatenblatt::OptionsrahmenAnlegen() {
@@ -158,12 +153,14 @@ QWidget* frmDatenblatt::OptionsrahmenAnlegen() {
   rahmen->setObjectName(u"rhmOptionen"_s);
   chkOptionen = new QCheckBox(u"Optionen berücksichtigen"_s, rahmen);
   chkOptionen->setObjectName(u"chkOptionen"_s);
+  connect(chkOptionen, &QCheckBox::clicked, this,
+          [this](bool an) { ablauf_.Tun(Mit(OptionenSchalten, an)); });
   lblModIdx = new QLabel(rahmen);
   lblModIdx->setObjectName(u"lblModIdx"_s);
-  cmdRechnen = new QPushButton(u"Rechnen"_s, rahmen);
+  auto* cmdRechnen = new QPushButton(u"Rechnen"_s, rahmen);
   cmdRechnen->setObjectName(u"cmdRechnen"_s);
   cmdRechnen->setAutoDefault(true);  // Enter presses it
-  connect(cmdRechnen, &QPushButton::clicked, this, &frmDatenblatt::rechnen);
+  connect(cmdRechnen, &QPushButton::clicked, this, [this] { ablauf_.Tun(SpalteRechnen); });
 
   auto* zeile = new QHBoxLayout(rahmen);
   const int rand = fontMetrics().height() / 4;
@@ -173,199 +170,42 @@ QWidget* frmDatenblatt::OptionsrahmenAnlegen() {
   zeile->addWidget(lblModIdx);
   zeile->addStretch();
   zeile->addWidget(cmdRechnen);
-  ModIdxAusSatz();
   return rahmen;
 }
 
 void frmDatenblatt::closeEvent(QCloseEvent* ereignis) {
   ereignis->ignore();
-  hide();
+  ablauf_.Tun(DatenblattVerbergen);
 }
 
-// --- cells ---
-
-Zelle& frmDatenblatt::ZelleBei(std::int16_t spalte, Zeile zeile) const {
-  return *txtA.at(Index(spalte, zeile));
-}
-
-void frmDatenblatt::Fuellen(std::bitset<AnzahlSpalten> gelesen) {
-  fuellt_ = true;
-  for (std::size_t index = 0; index < txtA.size(); ++index) {
-    txtA[index]->Schriftfarbe(Qt::black);
-    if (index % AnzahlZeilen < ZeileOhneHSM - 1) txtA[index]->Grundfarbe(farben::Weiss);
-    txtA[index]->Zeigen(Text(zustand_.Zellen[index]));
-    zustand_.Zellen[index] = txtA[index]->text().toStdString();  // a longer one has been cut
-  }
-  for (std::int16_t spalte = 1; spalte <= AnzahlSpalten; ++spalte) {
-    if (!gelesen[std::size_t(spalte) - 1]) continue;
-    SpalteToenen(spalte, Faktorprodukt(zustand_.Datenblattspalten[std::size_t(spalte)]));
-  }
-  fuellt_ = false;
-}
-
-void frmDatenblatt::ZelleSetzen(std::int16_t spalte, Zeile zeile, const QString& text) {
-  ZelleBei(spalte, zeile).Zeigen(text);
-}
-
-void frmDatenblatt::ZellfarbeSetzen(std::int16_t spalte, Zeile zeile, const QColor& farbe) {
-  ZelleBei(spalte, zeile).Grundfarbe(farbe);
-}
-
-void frmDatenblatt::SpaltenschriftSetzen(std::int16_t spalte, const QColor& farbe) {
-  for (std::int16_t zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
-    ZelleBei(spalte, Zeile(zeile)).Schriftfarbe(farbe);
+void frmDatenblatt::Zeigen(const Station& station) {
+  for (int spalte = 1; spalte <= AnzahlSpalten; ++spalte) SpalteZeigen(station, spalte);
+  // A record may hold a number beyond all bounds; like every factor above 1 it does not count.
+  const float faktor = Spaltenfaktor(station, station.werte.Spalte);
+  Schreiben(*lblModIdx, "Faktor für Sendeart: " + Formatieren(std::isfinite(faktor) ? faktor : 1.0F));
+  chkOptionen->setChecked(station.OptionenBeruecksichtigen);
+  if (station.titelGesetzt) setWindowTitle(Text(TitelDatenblatt(station)));
+  if (tooltips_ != station.einstellungen.ToolTips) {
+    tooltips_ = station.einstellungen.ToolTips;
+    TooltipsSetzen(*this, Tooltips, *tooltips_);
   }
 }
 
-void frmDatenblatt::SpalteToenen(std::int16_t spalte, float faktor) {
-  ZelleBei(spalte, ZeileOhneHSM).Grundfarbe(Faktorfarbe(faktor));
-  ZelleBei(spalte, ZeileHSM306).Grundfarbe(farben::HellRot);
-  ZelleBei(spalte, ZeileHSMvde).Grundfarbe(farben::HellGelb);
-}
-
-void frmDatenblatt::ZelleGeaendert(std::size_t index) {
-  std::string text = txtA[index]->text().toStdString();
-  if (text == zustand_.Zellen[index]) return;
-  zustand_.Zellen[index] = std::move(text);
-  if (fuellt_) return;
-  zustand_.UserGeaendert = true;
-  const auto zeile = index % AnzahlZeilen + 1;
-  if (zeile == ZeileFrequenz || zeile == ZeileLeistung) Q_EMIT belegungGeaendert();
-}
-
-void frmDatenblatt::ZeileWechseln(std::size_t index, int schritt) {
-  const int zeile = int(index % AnzahlZeilen) + schritt;
-  if (zeile < 0 || zeile >= AnzahlZeilen) return;
-  // As with the tab key the text is selected, so that typing replaces it.
-  txtA[index - index % AnzahlZeilen + std::size_t(zeile)]->setFocus(Qt::TabFocusReason);
-}
-
-// --- factor, options ---
-
-void frmDatenblatt::FaktorZeigen(std::int16_t spalte, float faktor) {
-  ModIdxSetzen(Faktortext(faktor));
-  ZelleBei(spalte, ZeileOhneHSM).Grundfarbe(Faktorfarbe(faktor));
-}
-
-void frmDatenblatt::ModIdxSetzen(const QString& text) {
-  lblModIdx->setText(text);
-}
-
-void frmDatenblatt::ModIdxAusSatz() {
-  const auto spalte = std::size_t(zustand_.werte.Spalte);
-  const float faktor =
-      spalte == 0 ? Faktor(zustand_.werte) : Faktorprodukt(zustand_.Datenblattspalten.at(spalte));
-  ModIdxSetzen(Faktortext(faktor));
-}
-
-bool frmDatenblatt::OptionenBeruecksichtigen() const {
-  return chkOptionen->isChecked();
-}
-
-void frmDatenblatt::OptionenBeruecksichtigenSetzen(bool an) {
-  chkOptionen->setChecked(an);
-}
-
-// --- the current column ---
-
-void frmDatenblatt::SpalteWaehlen(std::int16_t spalte) {
-  zustand_.werte.LetzteSpalte = zustand_.werte.Spalte;
-  zustand_.werte.Spalte = spalte;
-  AktuelleSpalteMarkieren();
-}
-
-void frmDatenblatt::AktuelleSpalteMarkieren() {
-  MarkierungAufheben();
-  const std::int16_t aktuell = zustand_.werte.Spalte;
-  if (aktuell != 0) lblSpalte.at(std::size_t(aktuell) - 1)->Markieren(true);
-  ModIdxAusSatz();
-  for (std::size_t index = 0; index < txtA.size(); ++index) {
-    if (index % AnzahlZeilen < ZeileOhneHSM - 1) txtA[index]->Grundfarbe(farben::Weiss);
+void frmDatenblatt::SpalteZeigen(const Station& station, int spalte) {
+  const Spaltenfarben& toene = station.spaltenfarben.at(std::size_t(spalte) - 1);
+  const QColor schrift = toene.rueckwaerts ? farben::Tuerkis : QColor(Qt::black);
+  const bool veraltet = SpalteVeraltet(station, spalte);
+  lblSpalte.at(std::size_t(spalte) - 1)->Markieren(spalte == station.werte.Spalte);
+  for (int zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
+    const std::size_t index = Zellenindex(spalte, Zeile(zeile));
+    Schreiben(*txtA[index], station.Zellen[index]);
+    const QColor grund = station.rot[index] ? farben::Rot : Grundfarbe(toene, zeile);
+    if (zeile < ZeileOhneHSM) {
+      Faerben(*txtA[index], grund, schrift);
+    } else {
+      ErgebnisFaerben(*txtA[index], grund, veraltet, schrift);
+    }
   }
-}
-
-void frmDatenblatt::MarkierungAufheben() {
-  for (Spaltenkopf* kopf : lblSpalte) kopf->Markieren(false);
-}
-
-void frmDatenblatt::KopfDruecken(std::int16_t spalte, Qt::MouseButton taste) {
-  SpalteWaehlen(spalte);
-  if (taste == Qt::LeftButton) {
-    Q_EMIT kopfGeklickt();
-    return;
-  }
-  SpalteLoeschen(Spaltenbuchstabe(spalte));
-  Q_EMIT optionenAnzeigen();
-}
-
-// --- clearing and copying ---
-
-bool frmDatenblatt::Gefragt(const QString& frage) {
-  return Bestaetigt(plattform_.boxen, zustand_.werte, u"Vesk"_s, frage);
-}
-
-/// Texts, records and white, black-lettered cells.
-void frmDatenblatt::SpalteLeeren(std::int16_t spalte) {
-  for (std::int16_t zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
-    Zelle& zelle = ZelleBei(spalte, Zeile(zeile));
-    zelle.clear();
-    zelle.Faerben(farben::Weiss, Qt::black);
-  }
-  zustand_.Datenblattspalten[std::size_t(spalte)] = LeereSpalte();
-}
-
-void frmDatenblatt::SpalteLoeschen(char buchstabe) {
-  // A refused question counts as a change, too; so the next save writes the file in any case.
-  zustand_.UserGeaendert = true;
-  if (!Gefragt(u"Spalte "_s + QLatin1Char(buchstabe) + u" wirklich löschen?"_s)) return;
-  const auto spalte = std::int16_t(buchstabe - 'A' + 1);
-  SpalteLeeren(spalte);
-  SpalteToenen(spalte, 1.0F);
-  ModIdxAusSatz();
-  Q_EMIT belegungGeaendert();
-}
-
-bool frmDatenblatt::DatenblattLoeschen() {
-  if (!Gefragt(u"Datenblatt wirklich löschen?"_s)) return false;
-  for (std::int16_t spalte = 1; spalte <= AnzahlSpalten; ++spalte) SpalteLeeren(spalte);
-  zustand_.Datenblattspalten[0] = LeereSpalte();
-  zustand_.UserGeaendert = true;
-  ModIdxAusSatz();
-  Q_EMIT optionenAnzeigen();
-  Q_EMIT belegungGeaendert();
-  return true;
-}
-
-void frmDatenblatt::mnuDelete_Click() {
-  DatenblattLoeschen();
-  Q_EMIT kopierenFreigeben();
-}
-
-void frmDatenblatt::mnuSpalteKopieren_Click() {
-  const std::int16_t quelle = zustand_.werte.Spalte;
-  const std::string frei = NaechsteFreieSpalte(zustand_.Zellen);
-  if (quelle == 0 || frei.empty()) return;
-  const auto ziel = std::int16_t(frei.front() - 'A' + 1);
-  if (ziel == quelle) return;
-
-  for (std::int16_t zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
-    const Zelle& von = ZelleBei(quelle, Zeile(zeile));
-    Zelle& nach = ZelleBei(ziel, Zeile(zeile));
-    nach.Zeigen(von.text());
-    nach.Schriftfarbe(von.Schriftfarbe());
-  }
-  ZelleBei(ziel, ZeileOhneHSM).Grundfarbe(ZelleBei(quelle, ZeileOhneHSM).Grundfarbe());
-  auto& saetze = zustand_.Datenblattspalten;
-  if (saetze[std::size_t(ziel)] != saetze[std::size_t(quelle)]) {
-    saetze[std::size_t(ziel)] = saetze[std::size_t(quelle)];
-    zustand_.UserGeaendert = true;
-  }
-  Q_EMIT belegungGeaendert();
-}
-
-void frmDatenblatt::mnuBeenden_Click() {
-  hide();
-  Q_EMIT beenden();
 }
 
 }  // namespace vesk

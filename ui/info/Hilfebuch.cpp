@@ -1,4 +1,4 @@
-#include "Hilfebuch.h"
+#include "ui/info/Hilfebuch.h"
 
 #include <QDir>
 #include <QFile>

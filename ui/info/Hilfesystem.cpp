@@ -1,10 +1,9 @@
-#include "Hilfesystem.h"
+#include "ui/info/Hilfesystem.h"
 
 #include <QApplication>
 #include <QWindow>
 
-#include "Meldung.h"
-#include "frmHilfe.h"
+#include "ui/info/frmHilfe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,9 +23,8 @@ void ZuModalemFenster(QWidget& hilfe) {
 
 }  // namespace
 
-Hilfesystem::Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Rechenwerte& werte,
-                         Dokumentdrucker& drucker)
-    : buch_(verzeichnis), boxen_(boxen), werte_(werte), drucker_(drucker) {}
+Hilfesystem::Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Dokumentdrucker& drucker)
+    : buch_(verzeichnis), boxen_(boxen), drucker_(drucker) {}
 
 Hilfesystem::~Hilfesystem() = default;
 
@@ -36,7 +34,7 @@ void Hilfesystem::Aufrufen(const QString& datei, Hilfebefehl befehl, int kontext
     return;
   }
   if (!buch_.Vorhanden(datei)) {
-    vesk::Zeigen(boxen_, werte_, Fehlermeldung("Hilfedatei nicht gefunden: " + datei.toStdString()));
+    boxen_.Zeigen(Fehlermeldung("Hilfedatei nicht gefunden: " + datei.toStdString()));
     return;
   }
   switch (befehl) {
@@ -54,15 +52,13 @@ void Hilfesystem::Aufrufen(const QString& datei, Hilfebefehl befehl, int kontext
 }
 
 void Hilfesystem::Zeigen(const QString& seite) {
-  if (!fenster_) fenster_ = std::make_unique<frmHilfe>(buch_, boxen_, werte_, drucker_);
-  if (!buch_.Html(seite)) {
-    fenster_->Zeigen(seite);
-    return;
+  if (!fenster_) fenster_ = std::make_unique<frmHilfe>(buch_, boxen_, drucker_);
+  if (buch_.Html(seite)) {
+    ZuModalemFenster(*fenster_);
+    fenster_->show();
+    fenster_->raise();
+    fenster_->activateWindow();
   }
-  ZuModalemFenster(*fenster_);
-  fenster_->show();
-  fenster_->raise();
-  fenster_->activateWindow();
   fenster_->Zeigen(seite);
 }
 

@@ -1,21 +1,20 @@
 #pragma once
 #include <memory>
 
-#include "Hilfebuch.h"
-#include "Plattform.h"
+#include "platform/Plattform.h"
+#include "ui/info/Hilfebuch.h"
 
 namespace vesk {
 
 class Dokumentdrucker;
 class frmHilfe;
-struct Rechenwerte;
 
 /// Answers help calls with the program's own help window. Neither the pages nor the window exist before the
 /// first call.
 class Hilfesystem : public Hilfe {
  public:
   /// `verzeichnis`: where the help pages lie.
-  Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Rechenwerte& werte, Dokumentdrucker& drucker);
+  Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Dokumentdrucker& drucker);
   ~Hilfesystem() override;
 
   void Aufrufen(const QString& datei, Hilfebefehl befehl, int kontext) override;
@@ -27,7 +26,6 @@ class Hilfesystem : public Hilfe {
 
   Hilfebuch buch_;
   Meldungsboxen& boxen_;
-  Rechenwerte& werte_;
   Dokumentdrucker& drucker_;
   std::unique_ptr<frmHilfe> fenster_;
 };

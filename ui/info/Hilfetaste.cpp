@@ -1,12 +1,12 @@
-#include "Hilfetaste.h"
+#include "ui/info/Hilfetaste.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QVariant>
 #include <QWidget>
 
-#include "Feldhilfe.h"
-#include "Plattform.h"
+#include "platform/Plattform.h"
+#include "ui/basis/Feldhilfe.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,9 @@
-#include "Seitenanzeige.h"
+#include "ui/info/Seitenanzeige.h"
 
 #include <QTextBlock>
 #include <algorithm>
 
-#include "Hilfebuch.h"
+#include "ui/info/Hilfebuch.h"
 
 using namespace Qt::StringLiterals;
 

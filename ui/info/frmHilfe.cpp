@@ -1,4 +1,4 @@
-#include "frmHilfe.h"
+#include "ui/info/frmHilfe.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -17,12 +17,11 @@
 #include <QTreeWidget>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <memory>
 
-#include "Dokumentdrucker.h"
-#include "Hilfebuch.h"
-#include "Meldung.h"
-#include "Seitenanzeige.h"
+#include "platform/Dokumentdrucker.h"
+#include "platform/Plattform.h"
+#include "ui/info/Hilfebuch.h"
+#include "ui/info/Seitenanzeige.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,23 +33,11 @@ constexpr int Seitenrolle = Qt::UserRole;
 
 }  // namespace
 
-frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Rechenwerte& werte, Dokumentdrucker& drucker,
-                   QWidget* eltern)
+frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Dokumentdrucker& drucker, QWidget* eltern)
     : QMainWindow(eltern),
       buch_(buch),
       boxen_(boxen),
-      werte_(werte),
       drucker_(drucker),
-      mnuDrucken(Eintrag(u"mnuDrucken"_s, u"Seite &drucken …"_s, QKeySequence::Print)),
-      mnuSchliessen(Eintrag(u"mnuSchliessen"_s, u"&Schließen"_s, Qt::Key_Escape)),
-      mnuZurueck(Eintrag(u"mnuZurueck"_s, u"&Zurück"_s, Qt::ALT | Qt::Key_Left)),
-      mnuVor(Eintrag(u"mnuVor"_s, u"&Vor"_s, Qt::ALT | Qt::Key_Right)),
-      mnuAnfang(Eintrag(u"mnuAnfang"_s, u"&Anfang des Handbuchs"_s, Qt::ALT | Qt::Key_Home)),
-      mnuSuchen(Eintrag(u"mnuSuchen"_s, u"&Suchen"_s, QKeySequence::Find)),
-      mnuWeitersuchen(Eintrag(u"mnuWeitersuchen"_s, u"&Nächste Fundstelle in der Seite"_s, Qt::Key_F3)),
-      mnuGroesser(Eintrag(u"mnuGroesser"_s, u"Schrift &größer"_s, QKeySequence::ZoomIn)),
-      mnuKleiner(Eintrag(u"mnuKleiner"_s, u"Schrift &kleiner"_s, QKeySequence::ZoomOut)),
-      mnuHilfeBenutzen(Eintrag(u"mnuHilfeBenutzen"_s, u"Hilfe &benutzen"_s, Qt::Key_F1)),
       tabLinks(new QTabWidget(this)),
       treInhalt(new QTreeWidget(this)),
       txtSuche(new QLineEdit(this)),
@@ -60,63 +47,65 @@ frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Rechenwerte& werte, Do
   setWindowTitle(u"Hilfe"_s);
   MenuesAufbauen();
   AnsichtAufbauen();
-
-  connect(mnuDrucken, &QAction::triggered, this,
-          [this] { drucker_.Drucken(*anzSeite->document(), windowTitle()); });
-  connect(mnuSchliessen, &QAction::triggered, this, &QWidget::close);
-  connect(mnuZurueck, &QAction::triggered, anzSeite, &QTextBrowser::backward);
-  connect(mnuVor, &QAction::triggered, anzSeite, &QTextBrowser::forward);
-  connect(mnuAnfang, &QAction::triggered, this, [this] { Zeigen(u"start.html"_s); });
-  connect(mnuSuchen, &QAction::triggered, this, [this] {
-    tabLinks->setCurrentIndex(1);
-    txtSuche->setFocus(Qt::ShortcutFocusReason);
-    txtSuche->selectAll();
-  });
-  connect(mnuWeitersuchen, &QAction::triggered, anzSeite, &Seitenanzeige::NaechsteMarkierung);
-  connect(mnuGroesser, &QAction::triggered, anzSeite, [this] { anzSeite->zoomIn(); });
-  connect(mnuKleiner, &QAction::triggered, anzSeite, [this] { anzSeite->zoomOut(); });
-  connect(mnuHilfeBenutzen, &QAction::triggered, this, [this] { Zeigen(u"hilfe-benutzen.html"_s); });
-  connect(anzSeite, &QTextBrowser::backwardAvailable, mnuZurueck, &QAction::setEnabled);
-  connect(anzSeite, &QTextBrowser::forwardAvailable, mnuVor, &QAction::setEnabled);
   connect(anzSeite, &QTextBrowser::sourceChanged, this, &frmHilfe::SeiteGewechselt);
   connect(anzSeite, &QTextBrowser::anchorClicked, this, &frmHilfe::Aufschlagen);
 }
 
-QAction* frmHilfe::Eintrag(const QString& name, const QString& text, const QKeySequence& taste) {
-  auto* eintrag = new QAction(text, this);
-  eintrag->setObjectName(name);
-  eintrag->setShortcut(taste);
-  return eintrag;
-}
-
 void frmHilfe::MenuesAufbauen() {
-  mnuZurueck->setEnabled(false);
-  mnuVor->setEnabled(false);
-  mnuZurueck->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-  mnuVor->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-  mnuAnfang->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
-  mnuAnfang->setIconText(u"Anfang"_s);
-  mnuDrucken->setIconText(u"Drucken"_s);
-
+  const auto eintrag = [this](QMenu* menue, const QString& name, const QString& text,
+                              const QKeySequence& taste, auto tun) {
+    QAction* aktion = menue->addAction(text);
+    aktion->setObjectName(name);
+    aktion->setShortcut(taste);
+    connect(aktion, &QAction::triggered, this, tun);
+    return aktion;
+  };
   QMenu* datei = menuBar()->addMenu(u"&Datei"_s);
-  datei->addAction(mnuDrucken);
+  QAction* drucken = eintrag(datei, u"mnuDrucken"_s, u"Seite &drucken …"_s, QKeySequence::Print,
+                             [this] { drucker_.Drucken(*anzSeite->document(), windowTitle()); });
   datei->addSeparator();
-  datei->addAction(mnuSchliessen);
-  QMenu* gehen = menuBar()->addMenu(u"&Gehe zu"_s);
-  gehen->addActions({mnuZurueck, mnuVor, mnuAnfang});
-  gehen->addSeparator();
-  gehen->addActions({mnuSuchen, mnuWeitersuchen});
-  QMenu* ansicht = menuBar()->addMenu(u"&Ansicht"_s);
-  ansicht->addActions({mnuGroesser, mnuKleiner});
-  QMenu* hilfe = menuBar()->addMenu(u"&Hilfe"_s);
-  hilfe->addAction(mnuHilfeBenutzen);
+  eintrag(datei, u"mnuSchliessen"_s, u"&Schließen"_s, Qt::Key_Escape, [this] { close(); });
 
+  QMenu* gehen = menuBar()->addMenu(u"&Gehe zu"_s);
+  QAction* zurueck =
+      eintrag(gehen, u"mnuZurueck"_s, u"&Zurück"_s, Qt::ALT | Qt::Key_Left, [this] { anzSeite->backward(); });
+  QAction* vor =
+      eintrag(gehen, u"mnuVor"_s, u"&Vor"_s, Qt::ALT | Qt::Key_Right, [this] { anzSeite->forward(); });
+  QAction* anfang = eintrag(gehen, u"mnuAnfang"_s, u"&Anfang des Handbuchs"_s, Qt::ALT | Qt::Key_Home,
+                            [this] { Zeigen(u"start.html"_s); });
+  gehen->addSeparator();
+  eintrag(gehen, u"mnuSuchen"_s, u"&Suchen"_s, QKeySequence::Find, [this] {
+    tabLinks->setCurrentIndex(1);
+    txtSuche->setFocus(Qt::ShortcutFocusReason);
+    txtSuche->selectAll();
+  });
+  eintrag(gehen, u"mnuWeitersuchen"_s, u"&Nächste Fundstelle in der Seite"_s, Qt::Key_F3,
+          [this] { anzSeite->NaechsteMarkierung(); });
+
+  QMenu* ansicht = menuBar()->addMenu(u"&Ansicht"_s);
+  eintrag(ansicht, u"mnuGroesser"_s, u"Schrift &größer"_s, QKeySequence::ZoomIn,
+          [this] { anzSeite->zoomIn(); });
+  eintrag(ansicht, u"mnuKleiner"_s, u"Schrift &kleiner"_s, QKeySequence::ZoomOut,
+          [this] { anzSeite->zoomOut(); });
+  QMenu* hilfe = menuBar()->addMenu(u"&Hilfe"_s);
+  eintrag(hilfe, u"mnuHilfeBenutzen"_s, u"Hilfe &benutzen"_s, Qt::Key_F1,
+          [this] { Zeigen(u"hilfe-benutzen.html"_s); });
+
+  zurueck->setEnabled(false);
+  vor->setEnabled(false);
+  connect(anzSeite, &QTextBrowser::backwardAvailable, zurueck, &QAction::setEnabled);
+  connect(anzSeite, &QTextBrowser::forwardAvailable, vor, &QAction::setEnabled);
+  zurueck->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+  vor->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+  anfang->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
+  anfang->setIconText(u"Anfang"_s);
+  drucken->setIconText(u"Drucken"_s);
   auto* leiste = addToolBar(u"Werkzeugleiste"_s);
   leiste->setObjectName(u"tlbHilfe"_s);
   leiste->setMovable(false);
   leiste->setContextMenuPolicy(Qt::PreventContextMenu);
   leiste->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  leiste->addActions({mnuZurueck, mnuVor, mnuAnfang, mnuDrucken});
+  leiste->addActions({zurueck, vor, anfang, drucken});
 }
 
 void frmHilfe::AnsichtAufbauen() {
@@ -210,8 +199,7 @@ void frmHilfe::Aufschlagen(const QUrl& ziel) {
     return;
   }
   if (!buch_.Html(Seitenname(ziel))) {
-    vesk::Zeigen(boxen_, werte_,
-                 Fehlermeldung("Hilfedatei nicht gefunden: " + Seitenname(ziel).toStdString()));
+    boxen_.Zeigen(Fehlermeldung("Hilfedatei nicht gefunden: " + Seitenname(ziel).toStdString()));
     return;
   }
   anzSeite->setSource(ziel);

@@ -1,7 +1,6 @@
 #pragma once
 #include <QMainWindow>
 
-class QAction;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
@@ -15,21 +14,18 @@ namespace vesk {
 class Dokumentdrucker;
 class Hilfebuch;
 class Meldungsboxen;
-struct Rechenwerte;
 class Seitenanzeige;
 
 /// The help window: contents and search at the left, the page at the right.
 class frmHilfe : public QMainWindow {
   Q_OBJECT
  public:
-  frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Rechenwerte& werte, Dokumentdrucker& drucker,
-           QWidget* eltern = nullptr);
+  frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Dokumentdrucker& drucker, QWidget* eltern = nullptr);
 
   /// Shows a page, with an optional mark "#name"; a box if there is no such page.
   void Zeigen(const QString& seite);
 
  private:
-  QAction* Eintrag(const QString& name, const QString& text, const QKeySequence& taste);
   void MenuesAufbauen();
   void AnsichtAufbauen();
   QWidget* InhaltAufbauen();
@@ -43,20 +39,9 @@ class frmHilfe : public QMainWindow {
 
   Hilfebuch& buch_;
   Meldungsboxen& boxen_;
-  Rechenwerte& werte_;
   Dokumentdrucker& drucker_;
   QString suchworte_;  ///< marked in the page while a hit is shown
 
-  QAction* mnuDrucken;
-  QAction* mnuSchliessen;
-  QAction* mnuZurueck;
-  QAction* mnuVor;
-  QAction* mnuAnfang;
-  QAction* mnuSuchen;
-  QAction* mnuWeitersuchen;
-  QAction* mnuGroesser;
-  QAction* mnuKleiner;
-  QAction* mnuHilfeBenutzen;
   QTabWidget* tabLinks;
   QTreeWidget* treInhalt;
   QLineEdit* txtSuche;

@@ -2,28 +2,25 @@
 #include <QDialog>
 
 class QLabel;
-class QPlainTextEdit;
-class QPushButton;
+class QVBoxLayout;
 
 namespace vesk {
 
-/// Info box: what the program is, and the versions that belong into a report of a fault.
+struct Station;
+
+/// Info box: what the program is, where its data lie, and the versions that belong into a report of a fault.
 class frmInfo : public QDialog {
   Q_OBJECT
  public:
   explicit frmInfo(QWidget* eltern = nullptr);
 
- private:
-  void Aufbauen();
+  void Zeigen(const Station& station);
 
-  QLabel* lblBild;
-  QLabel* lblName;
-  QLabel* lblZweck;
-  QLabel* lblGewaehr;
-  QLabel* lblSystem;
-  QPlainTextEdit* txtSystem;
-  QPushButton* cmdKopieren;
-  QPushButton* cmdOK;
+ private:
+  void KopfAnlegen(QVBoxLayout& spalte);
+  void SystemAnlegen(QVBoxLayout& spalte);
+
+  QLabel* lblDatei;
 };
 
 }  // namespace vesk

@@ -1,7 +1,6 @@
-#include "frmTip.h"
+#include "ui/info/frmTip.h"
 
 #include <QCheckBox>
-#include <QFile>
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,37 +8,22 @@
 #include <QPushButton>
 #include <QShowEvent>
 #include <QVBoxLayout>
+#include <utility>
 
-#include "Feldhilfe.h"
-#include "Plattform.h"
-#include "Tips.h"
+#include "platform/Plattform.h"
+#include "ui/basis/Feldhilfe.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vesk {
 
-namespace {
-
-/// More than any list of tips; a file of another kind is not read to its end.
-constexpr qint64 LaengsteDatei = 1 << 20;
-
-std::vector<std::string> Laden(const QString& pfad) {
-  QFile datei(pfad);
-  if (!datei.open(QIODevice::ReadOnly)) return {};
-  return TipsLesen(datei.read(LaengsteDatei).toStdString());
-}
-
-}  // namespace
-
-frmTip::frmTip(Benutzerspeicher& speicher, const QString& datei, QWidget* eltern)
+frmTip::frmTip(Benutzerspeicher& speicher, std::vector<std::string> tips, QWidget* eltern)
     : QDialog(eltern),
       speicher_(speicher),
-      tips_(Laden(datei)),
-      lblTitel(new QLabel(u"Wußten Sie schon …"_s, this)),
+      tips_(std::move(tips)),
       txtTip(new QPlainTextEdit(this)),
       chkTipsBeimStart(new QCheckBox(u"Tips beim &Start anzeigen"_s, this)),
-      cmdNaechsterTip(new QPushButton(u"&Nächster Tip"_s, this)),
-      cmdOK(new QPushButton(u"&OK"_s, this)) {
+      cmdNaechsterTip(new QPushButton(u"&Nächster Tip"_s, this)) {
   setObjectName(u"frmTip"_s);
   setWindowTitle(u"Tip des Tages"_s);
   setProperty(HilfekontextEigenschaft, 4001);
@@ -51,8 +35,6 @@ frmTip::frmTip(Benutzerspeicher& speicher, const QString& datei, QWidget* eltern
     speicher_.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, an ? u"1"_s : u"0"_s);
   });
   connect(cmdNaechsterTip, &QPushButton::clicked, this, &frmTip::NaechsterTip);
-  connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-
   naechster_ = speicher_.Lesen(u"Options"_s, u"Next Tip"_s).value_or(QString()).toUInt();
 }
 
@@ -62,6 +44,7 @@ void frmTip::showEvent(QShowEvent* ereignis) {
 }
 
 void frmTip::Aufbauen() {
+  auto* lblTitel = new QLabel(u"Wußten Sie schon …"_s, this);
   lblTitel->setObjectName(u"lblTitel"_s);
   lblTitel->setBuddy(txtTip);
   QFont fett = lblTitel->font();
@@ -76,8 +59,10 @@ void frmTip::Aufbauen() {
   chkTipsBeimStart->setObjectName(u"chkTipsBeimStart"_s);
   cmdNaechsterTip->setObjectName(u"cmdNaechsterTip"_s);
   cmdNaechsterTip->setAutoDefault(false);
+  auto* cmdOK = new QPushButton(u"&OK"_s, this);
   cmdOK->setObjectName(u"cmdOK"_s);
   cmdOK->setDefault(true);
+  connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 
   auto* knoepfe = new QHBoxLayout;
   knoepfe->addWidget(chkTipsBeimStart);

@@ -4,7 +4,6 @@
 #include <vector>
 
 class QCheckBox;
-class QLabel;
 class QPlainTextEdit;
 class QPushButton;
 
@@ -16,8 +15,8 @@ class Benutzerspeicher;
 class frmTip : public QDialog {
   Q_OBJECT
  public:
-  /// `datei`: path of "TIPOFDAY.TXT".
-  frmTip(Benutzerspeicher& speicher, const QString& datei, QWidget* eltern = nullptr);
+  /// `tips`: UTF-8.
+  frmTip(Benutzerspeicher& speicher, std::vector<std::string> tips, QWidget* eltern = nullptr);
 
  protected:
   void showEvent(QShowEvent* ereignis) override;
@@ -30,11 +29,9 @@ class frmTip : public QDialog {
   std::vector<std::string> tips_;
   std::size_t naechster_ = 0;
 
-  QLabel* lblTitel;
   QPlainTextEdit* txtTip;
   QCheckBox* chkTipsBeimStart;
   QPushButton* cmdNaechsterTip;
-  QPushButton* cmdOK;
 };
 
 }  // namespace vesk

@@ -1,4 +1,4 @@
-#include "Haupthilfe.h"
+#include "ui/main/Haupthilfe.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <span>
 
-#include "Feldhilfe.h"
+#include "ui/basis/Feldhilfe.h"
 
 namespace vesk {
 

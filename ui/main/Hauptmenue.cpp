@@ -1,70 +1,64 @@
-#include "Hauptmenue.h"
+#include "ui/main/Hauptmenue.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <array>
+
+#include "station/Haupthandlungen.h"
+#include "ui/basis/Menue.h"
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 
 namespace {
 
-struct Eintrag {
-  int stufe;  ///< 1: menu bar, 2: entry of the menu above
-  const char16_t* name;
-  const char16_t* titel;  ///< "-": separator
-  bool schalter = false;
+constexpr Menueeintrag Datei[] = {
+    {u"mnuDateiLaden", u"Datenblatt &Laden", Befehlend<Befehl::DateiLaden>},
+    {u"mnuDateiSpeichern", u"Datenblatt &Speichern", Befehlend<Befehl::DateiSpeichern>},
+    {u"mnuDateiSpeichernUnter", u"Datenblatt speichern &Unter", Befehlend<Befehl::DateiSpeichernUnter>},
+    {u"mnuS1"},
+    {u"mnuEnde", u"Programm &Beenden", Befehlend<Befehl::Beenden>},
 };
-
-constexpr std::array<Eintrag, 24> Eintraege = {{
-    {1, u"mnuBedienung", u"&Datei"},
-    {2, u"mnuDateiLaden", u"Datenblatt &Laden"},
-    {2, u"mnuDateiSpeichern", u"Datenblatt &Speichern"},
-    {2, u"mnuDateiSpeichernUnter", u"Datenblatt speichern &Unter"},
-    {2, u"mnuS1", u"-"},
-    {2, u"mnuEnde", u"Programm &Beenden"},
-    {1, u"mnuOption", u"&Optionen"},
-    {2, u"mnuMoreOptions", u"&Weitere Optionen (Sendeart - Kabel - Antennen - Winkel)"},
-    {2, u"mnuAFu", u"&AFu (Berechnung mit ungünstigster Frequenz je Band)", true},
-    {2, u"mnuAbstand", u"&Sicherheits Abstand berechnen"},
-    {2, u"mnuUmrechnung", u"&Leistungsumrechnung (Watt - dBW - dBm)"},
-    {2, u"mnuS2", u"-"},
-    {2, u"mnuToolTips", u"&ToolTips (Hilfe unter Cursor)", true},
-    {2, u"mnuMeldungen", u"&Warnmeldungen", true},
-    {2, u"mnuFenster", u"Alle &Fenster beim Programmstart öffnen", true},
-    {1, u"mnuAntrag", u"&Antrag stellen"},
-    {2, u"mnuUser", u"&Benutzerdaten"},
-    {2, u"mnuDatenblatt", u"&Datenblatt ausfüllen"},
-    {2, u"mnuAntragDrucken", u"&Antrag drucken"},
-    {1, u"mnuTip1", u"&Tips"},
-    {1, u"mnuHilfe", u"&Hilfe"},
-    {2, u"mnuAnleitung", u"&Hilfe Handbuch"},
-    {2, u"mnuHilfeBenutzen", u"&Hilfe benutzen"},
-    {2, u"mnuInfo", u"In&fo"},
-}};
+constexpr Menueeintrag Optionen[] = {
+    {u"mnuMoreOptions", u"&Weitere Optionen (Sendeart - Kabel - Antennen - Winkel)",
+     Befehlend<Befehl::OptionenZeigen>},
+    {u"mnuAFu", u"&AFu (Berechnung mit ungünstigster Frequenz je Band)", Tuend<AFuUmschalten>, {}, true},
+    {u"mnuAbstand", u"&Sicherheits Abstand berechnen", Tuend<AbstandUmschalten>},
+    {u"mnuUmrechnung", u"&Leistungsumrechnung (Watt - dBW - dBm)",
+     Befehlend<Befehl::LeistungsumrechnungZeigen>},
+    {u"mnuS2"},
+    {u"mnuToolTips", u"&ToolTips (Hilfe unter Cursor)", Tuend<TooltipsUmschalten>, {}, true},
+    {u"mnuMeldungen", u"&Warnmeldungen", Tuend<WarnmeldungenUmschalten>, {}, true},
+    {u"mnuFenster", u"Alle &Fenster beim Programmstart öffnen", Tuend<FensterUmschalten>, {}, true},
+};
+constexpr Menueeintrag Antrag[] = {
+    {u"mnuUser", u"&Benutzerdaten", Befehlend<Befehl::BenutzerZeigen>},
+    {u"mnuDatenblatt", u"&Datenblatt ausfüllen", Befehlend<Befehl::DatenblattZeigen>},
+    {u"mnuAntragDrucken", u"&Antrag drucken", nullptr, u"Das Drucken kommt mit einer späteren Version."},
+};
+constexpr Menueeintrag Hilfe[] = {
+    {u"mnuAnleitung", u"&Hilfe Handbuch", Befehlend<Befehl::Handbuch>},
+    {u"mnuHilfeBenutzen", u"&Hilfe benutzen", Befehlend<Befehl::HilfeBenutzen>},
+    {u"mnuInfo", u"In&fo", Befehlend<Befehl::InfoZeigen>},
+};
 
 }  // namespace
 
-void HauptmenueAnlegen(QMenuBar& leiste) {
-  QMenu* menue = nullptr;
-  for (std::size_t i = 0; i < Eintraege.size(); ++i) {
-    const Eintrag& eintrag = Eintraege[i];
-    const QString name = QString::fromUtf16(eintrag.name);
-    const QString titel = QString::fromUtf16(eintrag.titel);
-    const bool oeffnetMenue = eintrag.stufe == 1 && i + 1 < Eintraege.size() && Eintraege[i + 1].stufe == 2;
-    if (oeffnetMenue) {
-      menue = leiste.addMenu(titel);
-      menue->setObjectName(name);
-      menue->menuAction()->setObjectName(name);
-      menue->setToolTipsVisible(true);
-      continue;
-    }
-    QAction* aktion =
-        eintrag.stufe == 1 || menue == nullptr ? leiste.addAction(titel) : menue->addAction(titel);
-    aktion->setObjectName(name);
-    aktion->setCheckable(eintrag.schalter);
-    aktion->setSeparator(titel == QLatin1Char('-'));
-  }
+void HauptmenueAnlegen(QMenuBar& leiste, Ablauf& ablauf) {
+  const auto menue = [&](const QString& name, const QString& titel, std::span<const Menueeintrag> eintraege) {
+    QMenu* neu = leiste.addMenu(titel);
+    neu->setObjectName(name);
+    neu->menuAction()->setObjectName(name);
+    MenueFuellen(*neu, eintraege, ablauf);
+  };
+  menue(u"mnuBedienung"_s, u"&Datei"_s, Datei);
+  menue(u"mnuOption"_s, u"&Optionen"_s, Optionen);
+  menue(u"mnuAntrag"_s, u"&Antrag stellen"_s, Antrag);
+  QAction* tips = leiste.addAction(u"&Tips"_s);
+  tips->setObjectName(u"mnuTip1"_s);
+  QObject::connect(tips, &QAction::triggered, &leiste, [&ablauf] { ablauf.Befehlen(Befehl::TipZeigen); });
+  menue(u"mnuHilfe"_s, u"&Hilfe"_s, Hilfe);
 }
 
 }  // namespace vesk

@@ -4,7 +4,10 @@ class QMenuBar;
 
 namespace vesk {
 
-/// Fills the menu bar of the main window; every entry is a QAction that bears its name.
-void HauptmenueAnlegen(QMenuBar& leiste);
+class Ablauf;
+
+/// Fills the menu bar of the main window; every entry is a QAction that bears its name and tells `ablauf`
+/// what it is for.
+void HauptmenueAnlegen(QMenuBar& leiste, Ablauf& ablauf);
 
 }  // namespace vesk

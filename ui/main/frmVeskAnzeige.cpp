@@ -1,10 +1,17 @@
+#include <QAction>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 
-#include "Farben.h"
-#include "Zustand.h"
-#include "frmVesk.h"
+#include "station/Datenblatt.h"
+#include "station/Operator.h"
+#include "station/Rechnung.h"
+#include "ui/basis/Anzeige.h"
+#include "ui/basis/Dezimaltrenner.h"
+#include "ui/basis/Farben.h"
+#include "ui/basis/Klicklabel.h"
+#include "ui/main/Haupthilfe.h"
+#include "ui/main/frmVesk.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,118 +19,217 @@ namespace vesk {
 
 namespace {
 
-// Both pacemaker columns carry the same colour after a calculation.
-constexpr QColor Farbe306 = farben::HellRot;
-constexpr QColor FarbeVDE = farben::HellRot;
+/// What a mode writes besides the tooltips that belong to the switch of all tooltips.
+struct Modustexte {
+  const char* tag;
+  const char* lblModus;
+  const char* mnuAbstand;
+  const char* lblPWR;
+  const char* lblSicherheit;
+  const char* tipPWR;
+  const char* tipAusgabe;
+  const char* tipModus;
+  QColor farbe;
+};
 
-void Schreiben(QLabel& label, const std::optional<std::string>& text) {
-  if (text) label.setText(QString::fromStdString(*text));
+constexpr Modustexte Abstandstexte = {"Abstand",
+                                      "Berechnung Sicherheitsabstand",
+                                      "Maximale Sendeleistung berechnen",
+                                      "Sendeleistung [W]",
+                                      "Erforderlicher Sicherheitsabstand [m]",
+                                      "Eingabe: Senderausgangsleistung in Watt",
+                                      "Ausgabe: Errechneter Sicherheitsabstand in Metern",
+                                      "Klick zum Umschalten auf Berechnung der Sendeleistung",
+                                      BGR(0xFF0000)};
+constexpr Modustexte Leistungstexte = {"Leistung",
+                                       "Berechnung max. Sendeleistung",
+                                       "Sicherheitsabstand berechnen",
+                                       "Sicherheitsabstand [m]",
+                                       "Maximal zulässige Sendeleistung [W]",
+                                       "Eingabe: Maximal möglicher Sicherheitsabstand in Metern",
+                                       "Ausgabe: Maximale Senderausgangsleistung in Watt",
+                                       "Klick zum Umschalten auf Berechnung des Sicherheitsabstandes",
+                                       BGR(0x008000)};
+constexpr std::array Koepfe = {"ohne HSM", "HSM VDE", "HSM 306"};
+
+const Modustexte& TexteDesModus(const Station& s) {
+  return s.modus == Modus::Leistung ? Leistungstexte : Abstandstexte;
 }
 
-/// A number longer than its field shows its head, not its tail.
-void Schreiben(QLineEdit& feld, const std::optional<std::string>& text) {
-  if (!text) return;
-  feld.setText(QString::fromStdString(*text));
-  feld.setCursorPosition(0);
+void Beschriften(QLabel& label, QWidget& feld, const std::string& text) {
+  Schreiben(label, text);
+  if (feld.accessibleName() != label.text()) feld.setAccessibleName(label.text());
+}
+
+/// The fields of a pacemaker limit.
+struct Block {
+  Feld Uss;
+  Feld grenzwert;
+  Feld ausgabe;
+  int nahfeld;  ///< its bit of Nahfeldflags
+  QColor start;
+  Blockfarbe Station::*farbe;
+};
+
+constexpr Block Bloecke[] = {
+    {Feld::UssVDE, Feld::GrenzwertHSMvde, Feld::AusgabeHSMvde, NahfeldHSMvde, farben::HellGelb,
+     &Station::farbeVDE},
+    {Feld::Uss306, Feld::GrenzwertHSM306, Feld::AusgabeHSM306, NahfeldHSM306, farben::HellRot,
+     &Station::farbe306},
+};
+
+using Ausgabefarben = std::array<QColor, AnzahlAusgaben>;
+
+QColor& Farbe(Ausgabefarben& farben, Feld feld) {
+  return farben.at(static_cast<std::size_t>(feld));
+}
+
+/// The result that is whole; no other is coloured.
+const Ergebnis* Ganzes(const Station& s) {
+  return s.ergebnis && s.ergebnis->zahlen.vollstaendig ? &*s.ergebnis : nullptr;
+}
+
+Ausgabefarben FarbenDerAusgaben(const Station& s) {
+  const Ergebnis* ganzes = Ganzes(s);
+  const int flags = ganzes != nullptr ? ganzes->zahlen.Nahfeldflags : 0;
+  const bool leistung =
+      ganzes != nullptr ? ganzes->eingabe.modus == Modus::Leistung : s.modus == Modus::Leistung;
+  const int nahAusgaben = leistung ? 0 : flags;
+  const bool vermindert = ganzes != nullptr && ganzes->eingabe.faktor < 1.0F;
+
+  Ausgabefarben farbe;
+  farbe.fill(farben::HellGrau);
+  Farbe(farbe, Feld::GrenzwertOhneHSM) = farben::HellGruen;
+  if (flags != 0) Farbe(farbe, Feld::Nahfeld) = farben::Nahfeld;
+  QColor& ohneHSM = Farbe(farbe, Feld::AusgabeOhneHSM);
+  ohneHSM = vermindert ? farben::Gruen : farben::HellGruen;
+  if (leistung) ohneHSM = farben::HellCyan;
+  if ((nahAusgaben & NahfeldOhneHSM) != 0) ohneHSM = farben::Nahfeld;
+  for (const Block& block : Bloecke) {
+    const Blockfarbe art = s.*block.farbe;
+    const bool grau = art == Blockfarbe::Grau;
+    const QColor& grenzwert = art == Blockfarbe::Start ? block.start : farben::HellRot;
+    const QColor& leer = leistung ? farben::HellCyan : block.start;
+    const QColor& voll = (nahAusgaben & block.nahfeld) != 0 ? farben::Nahfeld : farben::HellRot;
+    Farbe(farbe, block.Uss) = grau ? farben::Grau : block.start;
+    Farbe(farbe, block.grenzwert) = grau ? farben::Grau : grenzwert;
+    Farbe(farbe, block.ausgabe) = ganzes == nullptr ? leer : voll;
+    if (ganzes != nullptr && grau) Farbe(farbe, block.ausgabe) = farben::Grau;
+  }
+  return farbe;
+}
+
+void Markieren(QWidget& feld, Pruefmarke marke) {
+  if (marke == Pruefmarke::Keine) {
+    ThemaFaerben(feld);
+  } else {
+    Faerben(feld, marke == Pruefmarke::Gut ? farben::Weiss : farben::Rot);
+  }
 }
 
 }  // namespace
 
-void frmVesk::WertNull() {
-  for (const Eingabe& eingabe : eingaben_) eingabe.feld->clear();
-  WertAusgabeNull();
+void frmVesk::Zeigen(const Station& s) {
+  cmdBerechnen->setProperty("Tag", u"True"_s);
+  if (s.titelGesetzt) setWindowTitle(QString::fromStdString(TitelHauptfenster(s)));
+  ModusZeigen(s);
+  SchalterZeigen(s);
+  TooltipsZeigen(s);
+  EingabenZeigen(s);
+  AusgabenZeigen(s);
+  KopierknopfZeigen(s);
 }
 
-void frmVesk::WertAusgabeNull() {
-  for (QLineEdit* feld :
-       {txtStrahlung, txtNahfeld, txtFernfeld, txtGrenzwert, txtGrenzwertHSMvde, txtGrenzwertHSM306,
-        txtUssVDE, txtUssHSM306, txtAusgabe, txtAusgabeHSMvde, txtAusgabeHSM306}) {
-    feld->clear();
+void frmVesk::ModusZeigen(const Station& s) {
+  const Modustexte& texte = TexteDesModus(s);
+  lblModus->setProperty("Tag", QString::fromUtf8(texte.tag));
+  Faerben(*lblModus, farben::HellGrau, texte.farbe);
+  Beschriften(*lblPWR, Eingabe(Eingabefeld::PWR), texte.lblPWR);
+  Schreiben(*lblSicherheit, texte.lblSicherheit);
+  if (!s.modusGewechselt) return;
+  Schreiben(*lblModus, texte.lblModus);
+  Aktion("mnuAbstand").setText(QString::fromUtf8(texte.mnuAbstand));
+}
+
+void frmVesk::SchalterZeigen(const Station& s) {
+  const Einstellungen& e = s.einstellungen;
+  Beschriften(*lblQRG, Eingabe(Eingabefeld::QRG), e.AFu ? "AFu-Band [MHz]" : "Betriebsfrequenz [MHz]");
+  Aktion("mnuAFu").setChecked(e.AFu);
+  Aktion("mnuToolTips").setChecked(e.ToolTips);
+  Aktion("mnuMeldungen").setChecked(e.Meldungen);
+  Aktion("mnuFenster").setChecked(e.Fenster);
+  for (const char* name : {"mnuDateiLaden", "mnuDateiSpeichern", "mnuDateiSpeichernUnter"}) {
+    Aktion(name).setEnabled(s.fenster.dateimenue);
   }
-  KoepfeZuruecksetzen();
-  KopierenErlauben(false);
-  Hintergrund(*txtNahfeld, farben::HellGrau);
-  Hintergrund(*txtAusgabeHSM306, farben::HellRot);
-  Hintergrund(*txtAusgabeHSMvde, farben::HellGelb);
-  FeldFarben();
 }
 
-void frmVesk::FeldFarben() {
-  if (modus() == Modus::Abstand) {
-    HintergrundDesThemas(*txtPWR);
-    Hintergrund(*txtAusgabe, farben::HellGruen);
-    Hintergrund(*txtAusgabeHSMvde, farben::HellGelb);
-    Hintergrund(*txtAusgabeHSM306, farben::HellRot);
+void frmVesk::TooltipsZeigen(const Station& s) {
+  const bool an = s.einstellungen.ToolTips;
+  const bool afu = s.einstellungen.AFu;
+  TooltipsSetzen(*this, HauptTooltips(), an);
+  TooltipsSetzen(*this, HauptTooltipsModus(s.modus == Modus::Leistung), an);
+  if (s.modustipsVomSchalter) {
+    const Modustexte& texte = TexteDesModus(s);
+    Eingabe(Eingabefeld::PWR).setToolTip(QString::fromUtf8(texte.tipPWR));
+    Ausgabe(Feld::AusgabeOhneHSM).setToolTip(QString::fromUtf8(texte.tipAusgabe));
+    lblModus->setToolTip(QString::fromUtf8(texte.tipModus));
+  }
+  const QString tipAFu = afu ? u"Klick zum Umschalten auf frequenzgenaue Berechnung"_s
+                             : u"Klick zum Umschalten auf AFu-Berechnung"_s;
+  lblQRG->setToolTip(an || s.afutipVomSchalter ? tipAFu : QString());
+  Aktion("mnuAFu").setToolTip(
+      afu ? u"Berechnung für Amateurfunk mit dem ungünstigsten Wert je Band. (Eingabe: 1, 3, 7, 14 etc.)"_s
+          : u"Frequenzeingabe [MHz]. Berechnung exakt für die eingegebene Frequenz."_s);
+}
+
+void frmVesk::EingabenZeigen(const Station& s) {
+  for (std::size_t i = 0; i < eingaben_.size(); ++i) {
+    Schreiben(*eingaben_.at(i), s.werte.*Eingabetexte.at(i));
+  }
+  Markieren(Eingabe(Eingabefeld::QRG), s.markeQRG);
+  Zahlenfeld& pwr = Eingabe(Eingabefeld::PWR);
+  const Ergebnis* ganzes = Ganzes(s);
+  if (s.modus == Modus::Abstand || s.markePWR == Pruefmarke::Fehlt) {
+    Markieren(pwr, s.markePWR);
+  } else if (ganzes != nullptr && ganzes->zahlen.Nahfeldflags != 0) {
+    Faerben(pwr, farben::Nahfeld);
   } else {
-    for (QLineEdit* feld :
-         {static_cast<QLineEdit*>(txtPWR), txtAusgabe, txtAusgabeHSMvde, txtAusgabeHSM306}) {
-      Hintergrund(*feld, farben::HellCyan);
-    }
+    Faerben(pwr, ganzes != nullptr || s.markePWR == Pruefmarke::Gut ? farben::Weiss : farben::HellCyan);
   }
 }
 
-void frmVesk::KoepfeZuruecksetzen() {
-  lblOhneHSM->setText(u"ohne HSM"_s);
-  lblMitHSM->setText(u"HSM VDE"_s);
-  lblHSM306->setText(u"HSM 306"_s);
-}
-
-void frmVesk::KoepfeZeigen(const Feldtexte& texte) {
-  Schreiben(*lblOhneHSM, texte[Feld::KopfOhneHSM]);
-  Schreiben(*lblMitHSM, texte[Feld::KopfHSMvde]);
-  Schreiben(*lblHSM306, texte[Feld::KopfHSM306]);
-}
-
-void frmVesk::HSMBlockFaerben(float Uss, bool nahfeld, const std::array<QLineEdit*, 3>& felder,
-                              const QColor& farbeUss, const QColor& farbe) {
-  const auto& [uss, grenzwert, ausgabe] = felder;
-  if (Uss == 0) {
-    for (QLineEdit* feld : felder) Hintergrund(*feld, farben::Grau);
-    return;
-  }
-  Hintergrund(*uss, farbeUss);
-  Hintergrund(*grenzwert, farbe);
-  Hintergrund(*ausgabe, nahfeld && modus() == Modus::Abstand ? farben::Nahfeld : farbe);
-}
-
-void frmVesk::ErgebnisZeigen(const Rechenergebnis& ergebnis, const Feldtexte& texte, float faktor) {
+void frmVesk::AusgabenZeigen(const Station& s) {
+  Feldtexte texte;
   List1->clear();
-  const HSMvdeWerte& vde = ergebnis.grenzwerte.hsmVDE;
-  for (int i = 0; i < vde.Anzahl; ++i) {
-    List1->addItem(QString::fromStdString(Kandidatentext(vde.Kandidaten.at(static_cast<std::size_t>(i)))));
+  if (s.ergebnis) {
+    texte = Ausgabetexte(s.ergebnis->zahlen, Dezimaltrenner());
+    const HSMvdeWerte& vde = s.ergebnis->zahlen.grenzwerte.hsmVDE;
+    for (int i = 0; i < vde.Anzahl; ++i) {
+      List1->addItem(QString::fromStdString(Kandidatentext(vde.Kandidaten.at(static_cast<std::size_t>(i)))));
+    }
+  } else if (s.koepfe) {
+    Kopftexte(*s.koepfe, Dezimaltrenner(), texte);
   }
-  if (!Ausgeben()) return;
-
-  const std::pair<QLineEdit*, Feld> felder[] = {
-      {txtStrahlung, Feld::Strahlung},
-      {txtGrenzwert, Feld::GrenzwertOhneHSM},
-      {txtGrenzwertHSMvde, Feld::GrenzwertHSMvde},
-      {txtGrenzwertHSM306, Feld::GrenzwertHSM306},
-      {txtUssVDE, Feld::UssVDE},
-      {txtUssHSM306, Feld::Uss306},
-      {txtAusgabe, Feld::AusgabeOhneHSM},
-      {txtAusgabeHSMvde, Feld::AusgabeHSMvde},
-      {txtAusgabeHSM306, Feld::AusgabeHSM306},
-      {txtNahfeld, Feld::Nahfeld},
-      {txtFernfeld, Feld::Fernfeld},
-  };
-  for (const auto& [feld, art] : felder) Schreiben(*feld, texte[art]);
-  Schreiben(*lblStrahlung, texte[Feld::StrahlungTitel]);
-  txtStrahlung->setAccessibleName(lblStrahlung->text());
-  if (!ergebnis.vollstaendig) return;
-
-  const int flags = ergebnis.Nahfeldflags;
-  const bool abstand = ergebnis.modus == Modus::Abstand;
-  if (abstand) {
-    const QColor& farbe = faktor < 1.0F ? farben::Gruen : farben::HellGruen;
-    Hintergrund(*txtAusgabe, (flags & NahfeldOhneHSM) != 0 ? farben::Nahfeld : farbe);
+  const Ausgabefarben farbe = FarbenDerAusgaben(s);
+  const bool veraltet = s.ergebnis && !Aktuell(s);
+  for (std::size_t i = 0; i < ausgaben_.size(); ++i) {
+    Schreiben(*ausgaben_.at(i), texte[static_cast<Feld>(i)].value_or(""));
+    ErgebnisFaerben(*ausgaben_.at(i), farbe.at(i), veraltet);
   }
-  HSMBlockFaerben(ergebnis.grenzwerte.hsm306.Uss, (flags & NahfeldHSM306) != 0,
-                  {txtUssHSM306, txtGrenzwertHSM306, txtAusgabeHSM306}, farben::HellRot, Farbe306);
-  HSMBlockFaerben(vde.Uss, (flags & NahfeldHSMvde) != 0, {txtUssVDE, txtGrenzwertHSMvde, txtAusgabeHSMvde},
-                  farben::HellGelb, FarbeVDE);
-  Hintergrund(*txtNahfeld, flags != 0 ? farben::Nahfeld : farben::HellGrau);
-  if (!abstand) Hintergrund(*txtPWR, flags != 0 ? farben::Nahfeld : farben::Weiss);
+  for (std::size_t i = 0; i < koepfe_.size(); ++i) {
+    const auto feld = static_cast<Feld>(static_cast<std::size_t>(Feld::KopfOhneHSM) + i);
+    Schreiben(*koepfe_.at(i), texte[feld].value_or(Koepfe.at(i)));
+  }
+  Beschriften(*lblStrahlung, Ausgabe(Feld::Strahlung), s.StrahlungTitel);
+}
+
+void frmVesk::KopierknopfZeigen(const Station& s) {
+  const std::string spalte = NaechsteFreieSpalte(s.Zellen);
+  Schreiben(*cmdCopy, spalte.empty() ? "Datenblatt voll" : "Kopieren in Spalte " + spalte);
+  const bool kopierbar = Kopierbar(s);
+  // Disabling it would send the focus anywhere.
+  if (!kopierbar && focusWidget() == cmdCopy) cmdBerechnen->setFocus(Qt::OtherFocusReason);
+  cmdCopy->setEnabled(kopierbar);
 }
 
 }  // namespace vesk

@@ -7,16 +7,15 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include "Farben.h"
-#include "Haupthilfe.h"
-#include "Hauptmenue.h"
-#include "Klicklabel.h"
-#include "Plattform.h"
-#include "Programmbild.h"
-#include "Rollseite.h"
-#include "Version.h"
-#include "Zustand.h"
-#include "frmVesk.h"
+#include "engine/Version.h"
+#include "ui/basis/Anzeige.h"
+#include "ui/basis/Farben.h"
+#include "ui/basis/Klicklabel.h"
+#include "ui/basis/Programmbild.h"
+#include "ui/basis/Rollseite.h"
+#include "ui/main/Haupthilfe.h"
+#include "ui/main/Hauptmenue.h"
+#include "ui/main/frmVesk.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,8 +27,9 @@ int Feldbreite(const QWidget& widget) {
   return widget.fontMetrics().horizontalAdvance(u"0000000000.00"_s);
 }
 
-QLabel* Titel(const QString& name, const QString& text, QWidget* eltern) {
-  auto* label = new QLabel(text, eltern);
+template <typename Label = QLabel>
+Label* Titel(const QString& name, const QString& text) {
+  auto* label = new Label(text);
   label->setObjectName(name);
   return label;
 }
@@ -40,26 +40,52 @@ void Umbrechen(QLabel& label) {
   label.setMinimumWidth(label.fontMetrics().horizontalAdvance(u"Verluste zwischen Sender "_s));
 }
 
+struct Eingabezeile {
+  QStringView feld;
+  QStringView label;
+  QStringView text;
+};
+
+/// In the order of Eingabefeld.
+constexpr std::array<Eingabezeile, Eingabetexte.size()> Eingabezeilen = {{
+    {u"txtQRG", u"lblQRG", u"AFu-Band [MHz]"},
+    {u"txtPWR", u"lblPWR", u"Sendeleistung [W]"},
+    {u"txtGewinn", u"lblGewinn", u"Antennengewinn [dBi]"},
+    {u"txtDaempfung", u"lblDaempfung", u"Verluste zwischen Sender und Antenne [dB]"},
+    {u"txtWinkelDaempfung", u"lblWDaempfung", u"Winkeldämpfung [dB]"},
+}};
+
+/// Names for those who do not see the window, in the order of Feld.
+constexpr std::array<QStringView, AnzahlAusgaben> Ausgabenamen = {
+    u"Strahlungsleistung EIRP [W]",
+    u"Grenzwert ohne HSM [V/m]",
+    u"Grenzwert HSM VDE [V/m]",
+    u"Grenzwert HSM 306 [V/m]",
+    u"Spitzenspannung Uss HSM VDE [V]",
+    u"Spitzenspannung Uss HSM 306 [V]",
+    u"Ergebnis ohne HSM",
+    u"Ergebnis HSM VDE",
+    u"Ergebnis HSM 306",
+    u"Nahfeld bis [m]",
+    u"Fernfeld ab [m]",
+};
+
 }  // namespace
 
-frmVesk::~frmVesk() = default;
-
-frmVesk::frmVesk(Zustand& zustand, Plattform& plattform) : zustand_(zustand), plattform_(plattform) {
+frmVesk::frmVesk(Ablauf& ablauf, Signalton& ton) : ablauf_(ablauf) {
   setObjectName(u"frmVesk"_s);
   setWindowTitle(u"EMVU Sicherheitsabstand (Hauptprogramm)"_s);
-  HauptmenueAnlegen(*menuBar());
+  HauptmenueAnlegen(*menuBar(), ablauf);
 
   auto* flaeche = new QWidget(this);
   auto* raster = new QGridLayout(flaeche);
   raster->addWidget(ModusAnlegen(), 0, 0, 1, 2);
-  raster->addWidget(EingabenAnlegen(), 1, 0);
+  raster->addWidget(EingabenAnlegen(ton), 1, 0);
   raster->addWidget(AusgabenAnlegen(), 1, 1);
-  auto* lblReferat =
-      Titel(u"lblReferat"_s,
-            u"%1 %2  -  %3"_s.arg(QString::fromUtf8(Produktname.data(), Produktname.size()),
-                                  QString::fromStdString(VersionLang()),
-                                  QString::fromUtf8(Rechtshinweis.data(), Rechtshinweis.size())),
-            flaeche);
+  auto* lblReferat = Titel(
+      u"lblReferat"_s, u"%1 %2  -  %3"_s.arg(QString::fromUtf8(Produktname.data(), Produktname.size()),
+                                             QString::fromStdString(VersionLang()),
+                                             QString::fromUtf8(Rechtshinweis.data(), Rechtshinweis.size())));
   raster->addWidget(lblReferat, 2, 0, 1, 2, Qt::AlignRight);
   raster->setRowStretch(3, 1);
   List1 = new QListWidget(flaeche);
@@ -67,20 +93,10 @@ frmVesk::frmVesk(Zustand& zustand, Plattform& plattform) : zustand_(zustand), pl
   List1->hide();
   setCentralWidget(new Rollseite(flaeche));
 
-  eingaben_ = {{{txtQRG, &Rechenwerte::QRGText},
-                {txtPWR, &Rechenwerte::PWRText},
-                {txtGewinn, &Rechenwerte::GewinnText},
-                {txtDaempfung, &Rechenwerte::DaempfungText},
-                {txtWinkelDaempfung, &Rechenwerte::WinkelDaempfungText}}};
-  lblModus->setProperty("Tag", u"Abstand"_s);
-  lblQRG->setProperty("Tag", u"AFu"_s);
-  lblGewinn->setProperty("Tag", u"dBi"_s);
-  Textfarbe(*lblModus, BGR(0xFF0000));
-  WertAusgabeNull();
   HilfenummernSetzen(*this, HauptHilfenummern());
   EreignisseVerbinden();
-  Tabfolge();
-  txtQRG->setFocus();
+  TastenVerbinden();
+  Eingabe(Eingabefeld::QRG).setFocus();
   resize(sizeHint().boundedTo(screen()->availableSize() * 0.95));
 }
 
@@ -89,156 +105,107 @@ QWidget* frmVesk::ModusAnlegen() {
   rhmSicherheit->setObjectName(u"rhmSicherheit"_s);
   rhmSicherheit->setFrameShape(QFrame::StyledPanel);
   auto* zeile = new QHBoxLayout(rhmSicherheit);
-  auto* Picture1 = new QLabel(rhmSicherheit);
-  Picture1->setObjectName(u"Picture1"_s);
+  auto* Picture1 = Titel(u"Picture1"_s, {});
   Picture1->setPixmap(Programmbild(2 * fontMetrics().height(), devicePixelRatioF()));
   Picture1->setAccessibleName(u"Vesk"_s);
   zeile->addWidget(Picture1);
-  lblModus = new Klicklabel(u"Berechnung  Sicherheitsabstand"_s, rhmSicherheit);
-  lblModus->setObjectName(u"lblModus"_s);
+  lblModus = Titel<Klicklabel>(u"lblModus"_s, u"Berechnung  Sicherheitsabstand"_s);
   lblModus->setAlignment(Qt::AlignCenter);
   lblModus->setCursor(Qt::PointingHandCursor);
   QFont schrift = lblModus->font();
   schrift.setPointSizeF(schrift.pointSizeF() * 1.4);
   schrift.setBold(true);
   lblModus->setFont(schrift);
-  // Blue and green are told for a light ground; a dark theme would swallow them.
-  Hintergrund(*lblModus, farben::HellGrau);
   zeile->addWidget(lblModus, 1);
   return rhmSicherheit;
 }
 
-Klicklabel* frmVesk::Eingabezeile(QGridLayout& raster, const QString& label, const QString& text,
-                                  Zahlenfeld* feld) {
-  auto* titel = new Klicklabel(text, this);
-  titel->setObjectName(label);
-  titel->setBuddy(feld);
-  Umbrechen(*titel);
-  feld->setMinimumWidth(Feldbreite(*this));
-  feld->setAlignment(Qt::AlignRight);
-  feld->setAccessibleName(text);
-  const int zeile = raster.rowCount();
-  raster.addWidget(titel, zeile, 0);
-  raster.addWidget(feld, zeile, 1);
-  return titel;
-}
-
-QWidget* frmVesk::EingabenAnlegen() {
+QWidget* frmVesk::EingabenAnlegen(Signalton& ton) {
   auto* flaeche = new QWidget(this);
   auto* raster = new QGridLayout(flaeche);
   raster->setContentsMargins(0, 0, 0, 0);
-  const auto feld = [&](const QString& name) {
-    auto* neu = new Zahlenfeld(zustand_.werte, plattform_.ton, flaeche);
+  std::array<Klicklabel*, Eingabezeilen.size()> titel{};
+  for (std::size_t i = 0; i < Eingabezeilen.size(); ++i) {
+    const Eingabezeile& zeile = Eingabezeilen.at(i);
+    auto* feld = new Zahlenfeld(ton, flaeche);
+    feld->setObjectName(zeile.feld.toString());
+    feld->setMinimumWidth(Feldbreite(*this));
+    feld->setAlignment(Qt::AlignRight);
+    feld->setAccessibleName(zeile.text.toString());
+    titel.at(i) = Titel<Klicklabel>(zeile.label.toString(), zeile.text.toString());
+    titel.at(i)->setBuddy(feld);
+    Umbrechen(*titel.at(i));
+    raster->addWidget(titel.at(i), static_cast<int>(i), 0);
+    raster->addWidget(feld, static_cast<int>(i), 1);
+    eingaben_.at(i) = feld;
+  }
+  Eingabe(Eingabefeld::Gewinn).VorzeichenErlauben(true);
+  lblQRG = titel[0];
+  lblQRG->setCursor(Qt::PointingHandCursor);
+  lblQRG->setProperty("Tag", u"AFu"_s);
+  lblPWR = titel[1];
+  titel[2]->setProperty("Tag", u"dBi"_s);
+
+  const auto knopf = [&](const QString& name, const QString& text, int spalte, Qt::Alignment lage) {
+    auto* neu = new QPushButton(text, flaeche);
     neu->setObjectName(name);
+    raster->addWidget(neu, static_cast<int>(Eingabezeilen.size()), spalte, lage);
     return neu;
   };
-  txtQRG = feld(u"txtQRG"_s);
-  txtPWR = feld(u"txtPWR"_s);
-  txtGewinn = feld(u"txtGewinn"_s);
-  txtDaempfung = feld(u"txtDaempfung"_s);
-  txtWinkelDaempfung = feld(u"txtWinkelDaempfung"_s);
-  lblQRG = Eingabezeile(*raster, u"lblQRG"_s, u"AFu-Band [MHz]"_s, txtQRG);
-  lblQRG->setCursor(Qt::PointingHandCursor);
-  lblPWR = Eingabezeile(*raster, u"lblPWR"_s, u"Sendeleistung [W]"_s, txtPWR);
-  lblGewinn = Eingabezeile(*raster, u"lblGewinn"_s, u"Antennengewinn [dBi]"_s, txtGewinn);
-  Eingabezeile(*raster, u"lblDaempfung"_s, u"Verluste zwischen Sender und Antenne [dB]"_s, txtDaempfung);
-  Eingabezeile(*raster, u"lblWDaempfung"_s, u"Winkeldämpfung [dB]"_s, txtWinkelDaempfung);
-
-  cmdBerechnen = new QPushButton(u"="_s, flaeche);
-  cmdBerechnen->setObjectName(u"cmdBerechnen"_s);
+  cmdBerechnen = knopf(u"cmdBerechnen"_s, u"="_s, 1, {});
   cmdBerechnen->setAccessibleName(u"Berechnen"_s);
-  Hintergrund(*cmdBerechnen, farben::Grau);
-  cmdCopy = new QPushButton(u"Kopieren in Spalte"_s, flaeche);
-  cmdCopy->setObjectName(u"cmdCopy"_s);
+  Faerben(*cmdBerechnen, farben::Grau);
+  cmdCopy = knopf(u"cmdCopy"_s, u"Kopieren in Spalte"_s, 0, Qt::AlignLeft);
   cmdCopy->setEnabled(false);
-  raster->addWidget(cmdBerechnen, raster->rowCount(), 1);
-  raster->addWidget(cmdCopy, raster->rowCount() - 1, 0, Qt::AlignLeft);
   raster->setRowStretch(raster->rowCount(), 1);
   return flaeche;
-}
-
-QLineEdit* frmVesk::Ausgabefeld(const QString& name, const QString& beschreibung) {
-  auto* feld = new QLineEdit(this);
-  feld->setObjectName(name);
-  feld->setReadOnly(true);
-  feld->setAlignment(Qt::AlignRight);
-  feld->setMinimumWidth(Feldbreite(*this));
-  feld->setAccessibleName(beschreibung);
-  return feld;
-}
-
-void frmVesk::DreierzeileAnlegen(QGridLayout& raster, int zeile, QLabel*& titel, const QString& name,
-                                 const QString& text, std::array<QLineEdit*, 3> felder) {
-  titel = Titel(name, text, this);
-  Umbrechen(*titel);
-  raster.addWidget(titel, zeile, 0);
-  for (int spalte = 0; spalte < 3; ++spalte) {
-    if (QLineEdit* feld = felder.at(static_cast<std::size_t>(spalte)))
-      raster.addWidget(feld, zeile, spalte + 1);
-  }
 }
 
 QWidget* frmVesk::AusgabenAnlegen() {
   auto* rhmAusgabe = new QGroupBox(u"Datenausgabe"_s, this);
   rhmAusgabe->setObjectName(u"rhmAusgabe"_s);
   auto* raster = new QGridLayout(rhmAusgabe);
-  raster->addWidget(Titel(u"Label1"_s, u"Berechnung für  f  [MHz]"_s, rhmAusgabe), 0, 0);
-  const auto kopf = [&](const QString& name, int spalte) {
-    QLabel* label = Titel(name, {}, rhmAusgabe);
-    label->setAlignment(Qt::AlignCenter);
-    raster->addWidget(label, 0, spalte);
-    return label;
+  const auto name = [](std::size_t feld) {
+    return QString::fromUtf8(Feldnamen.at(feld).data(), std::ssize(Feldnamen.at(feld)));
   };
-  lblOhneHSM = kopf(u"lblOhneHSM"_s, 1);
-  lblMitHSM = kopf(u"lblMitHSM"_s, 2);
-  lblHSM306 = kopf(u"lblHSM306"_s, 3);
-  lblOhneHSM->setMinimumHeight(2 * fontMetrics().lineSpacing());
+  for (std::size_t i = 0; i < ausgaben_.size(); ++i) {
+    auto* feld = new QLineEdit(rhmAusgabe);
+    feld->setObjectName(name(i));
+    feld->setReadOnly(true);
+    feld->setAlignment(Qt::AlignRight);
+    feld->setMinimumWidth(Feldbreite(*this));
+    feld->setAccessibleName(Ausgabenamen.at(i).toString());
+    ausgaben_.at(i) = feld;
+  }
+  raster->addWidget(Titel(u"Label1"_s, u"Berechnung für  f  [MHz]"_s), 0, 0);
+  for (std::size_t i = 0; i < koepfe_.size(); ++i) {
+    koepfe_.at(i) = Titel(name(static_cast<std::size_t>(Feld::KopfOhneHSM) + i), {});
+    koepfe_.at(i)->setAlignment(Qt::AlignCenter);
+    raster->addWidget(koepfe_.at(i), 0, static_cast<int>(i) + 1);
+  }
+  koepfe_[0]->setMinimumHeight(2 * fontMetrics().lineSpacing());
 
-  txtGrenzwert = Ausgabefeld(u"txtGrenzwert"_s, u"Grenzwert ohne HSM [V/m]"_s);
-  txtGrenzwertHSMvde = Ausgabefeld(u"txtGrenzwertHSMvde"_s, u"Grenzwert HSM VDE [V/m]"_s);
-  txtGrenzwertHSM306 = Ausgabefeld(u"txtGrenzwertHSM306"_s, u"Grenzwert HSM 306 [V/m]"_s);
-  txtUssVDE = Ausgabefeld(u"txtUssVDE"_s, u"Spitzenspannung Uss HSM VDE [V]"_s);
-  txtUssHSM306 = Ausgabefeld(u"txtUssHSM306"_s, u"Spitzenspannung Uss HSM 306 [V]"_s);
-  txtAusgabe = Ausgabefeld(u"txtAusgabe"_s, u"Ergebnis ohne HSM"_s);
-  txtAusgabeHSMvde = Ausgabefeld(u"txtAusgabeHSMvde"_s, u"Ergebnis HSM VDE"_s);
-  txtAusgabeHSM306 = Ausgabefeld(u"txtAusgabeHSM306"_s, u"Ergebnis HSM 306"_s);
-  DreierzeileAnlegen(*raster, 1, lblGrenzwert, u"lblGrenzwert"_s,
-                     u"Grenzwert der Ersatzfeldstärke Eg [V/m]"_s,
-                     {txtGrenzwert, txtGrenzwertHSMvde, txtGrenzwertHSM306});
-  DreierzeileAnlegen(*raster, 2, lblUss, u"lblUss"_s, u"Spitzenspannung Uss [V]"_s,
-                     {nullptr, txtUssVDE, txtUssHSM306});
-  DreierzeileAnlegen(*raster, 3, lblSicherheit, u"lblSicherheit"_s,
-                     u"Erforderlicher Sicherheitsabstand [m]"_s,
-                     {txtAusgabe, txtAusgabeHSMvde, txtAusgabeHSM306});
+  const auto zeile = [&](int nummer, QLabel* titel, std::initializer_list<Feld> felder, int spalte) {
+    Umbrechen(*titel);
+    raster->addWidget(titel, nummer, 0);
+    for (const Feld feld : felder) raster->addWidget(&Ausgabe(feld), nummer, spalte++);
+  };
+  zeile(1, Titel(u"lblGrenzwert"_s, u"Grenzwert der Ersatzfeldstärke Eg [V/m]"_s),
+        {Feld::GrenzwertOhneHSM, Feld::GrenzwertHSMvde, Feld::GrenzwertHSM306}, 1);
+  zeile(2, Titel(u"lblUss"_s, u"Spitzenspannung Uss [V]"_s), {Feld::UssVDE, Feld::Uss306}, 2);
+  lblSicherheit = Titel(u"lblSicherheit"_s, u"Erforderlicher Sicherheitsabstand [m]"_s);
+  zeile(3, lblSicherheit, {Feld::AusgabeOhneHSM, Feld::AusgabeHSMvde, Feld::AusgabeHSM306}, 1);
   raster->setRowMinimumHeight(4, fontMetrics().height());
 
-  txtStrahlung = Ausgabefeld(u"txtStrahlung"_s, u"Strahlungsleistung EIRP [W]"_s);
-  txtNahfeld = Ausgabefeld(u"txtNahfeld"_s, u"Nahfeld bis [m]"_s);
-  txtFernfeld = Ausgabefeld(u"txtFernfeld"_s, u"Fernfeld ab [m]"_s);
-  lblStrahlung = Titel(u"lblStrahlung"_s, u"Strahlungsleistung EIRP [W]"_s, rhmAusgabe);
-  raster->addWidget(lblStrahlung, 5, 0);
-  raster->addWidget(txtStrahlung, 6, 0);
-  raster->addWidget(Titel(u"lblNahfeld"_s, u"Nahfeld bis [m]"_s, rhmAusgabe), 5, 1);
-  raster->addWidget(txtNahfeld, 6, 1);
-  raster->addWidget(Titel(u"lblFernfeld"_s, u"Fernfeld ab [m]"_s, rhmAusgabe), 5, 2);
-  raster->addWidget(txtFernfeld, 6, 2);
-
-  for (QLineEdit* feld : {txtStrahlung, txtFernfeld}) Hintergrund(*feld, farben::HellGrau);
-  Hintergrund(*txtGrenzwert, farben::HellGruen);
-  for (QLineEdit* feld : {txtUssHSM306, txtGrenzwertHSM306}) Hintergrund(*feld, farben::HellRot);
-  for (QLineEdit* feld : {txtUssVDE, txtGrenzwertHSMvde}) Hintergrund(*feld, farben::HellGelb);
+  const auto unten = [&](QLabel* titel, Feld feld, int spalte) {
+    raster->addWidget(titel, 5, spalte);
+    raster->addWidget(&Ausgabe(feld), 6, spalte);
+  };
+  lblStrahlung = Titel(u"lblStrahlung"_s, u"Strahlungsleistung EIRP [W]"_s);
+  unten(lblStrahlung, Feld::Strahlung, 0);
+  unten(Titel(u"lblNahfeld"_s, u"Nahfeld bis [m]"_s), Feld::Nahfeld, 1);
+  unten(Titel(u"lblFernfeld"_s, u"Fernfeld ab [m]"_s), Feld::Fernfeld, 2);
   return rhmAusgabe;
-}
-
-void frmVesk::Tabfolge() {
-  QWidget* vorher = nullptr;
-  for (QWidget* widget : std::initializer_list<QWidget*>{
-           txtQRG, txtPWR, txtGewinn, txtDaempfung, txtWinkelDaempfung, cmdBerechnen, cmdCopy, txtGrenzwert,
-           txtGrenzwertHSMvde, txtGrenzwertHSM306, txtUssVDE, txtUssHSM306, txtAusgabe, txtAusgabeHSMvde,
-           txtAusgabeHSM306, txtStrahlung, txtNahfeld, txtFernfeld}) {
-    if (vorher != nullptr) setTabOrder(vorher, widget);
-    vorher = widget;
-  }
 }
 
 }  // namespace vesk

@@ -1,18 +1,18 @@
-#include "AntennenTab.h"
+#include "ui/options/AntennenTab.h"
 
+#include <QFontDatabase>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <filesystem>
+#include <utility>
 
-#include "Auswahlliste.h"
-#include "Dateien.h"
-#include "Meldung.h"
-#include "OptionenUmgebung.h"
-#include "Spaltensatz.h"
-#include "Zahlen.h"
+#include "station/Optionen.h"
+#include "ui/basis/Ablauf.h"
+#include "ui/basis/Anzeige.h"
+#include "ui/basis/Auswahlliste.h"
 
 namespace vesk {
 
@@ -20,17 +20,32 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Antennenkatalog KatalogLesen(const std::string& verzeichnis) {
-  const Gelesen datei = DateiLesen(std::filesystem::path(verzeichnis) / "Antennen.txt");
-  switch (datei.status) {
-    case Lesestatus::Gelesen:
-      return AntennenLaden(datei.bytes);
-    case Lesestatus::Fehlt:
-      return {};
-    case Lesestatus::Fehler:
-      break;
-  }
-  return AntennenUnlesbar();
+/// A list of lines whose columns stand below each other; their blank right end needs no scroll bar.
+template <typename Liste>
+Liste* Spaltenliste(const QString& name, const QString& beschreibung, QWidget* eltern) {
+  auto* liste = new Liste(eltern);
+  liste->setObjectName(name);
+  liste->setAccessibleName(beschreibung);
+  liste->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  liste->setUniformItemSizes(true);
+  liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  liste->setTextElideMode(Qt::ElideNone);
+  // Counted by items the scroll range goes wrong with hidden lines.
+  liste->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  return liste;
+}
+
+QLabel* Label(const QString& name, const QString& text, QWidget* eltern) {
+  auto* label = new QLabel(text, eltern);
+  label->setObjectName(name);
+  return label;
+}
+
+QStringList Qtexte(const std::vector<std::string>& zeilen) {
+  QStringList texte;
+  texte.reserve(qsizetype(zeilen.size()));
+  for (const std::string& zeile : zeilen) texte << QString::fromStdString(zeile);
+  return texte;
 }
 
 /// The line with the maker in its place.
@@ -39,36 +54,118 @@ QString MitHersteller(QString zeile, const std::string& hersteller) {
   return zeile.replace(0, name.size(), name);
 }
 
+void ListeSchreiben(QListWidget& liste, const QStringList& zeilen) {
+  bool gleich = liste.count() == zeilen.size();
+  for (int i = 0; gleich && i < liste.count(); ++i) gleich = liste.item(i)->text() == zeilen.at(i);
+  if (gleich) return;
+  liste.clear();
+  liste.addItems(zeilen);
+}
+
 }  // namespace
 
-void AntennenTab::Laden() {
-  lblAntDaten->setText(
-      u"Antennendaten ohne Gewähr. "
-      "Die Daten be- ruhen auf Herstelleran- gaben und Anzeigen."_s);
-  rhmAntennen->setTitle(QString::fromStdString(Antennenkopf()));
-  katalog_ = KatalogLesen(zustand_.ProgrammVerzeichnis);
-  suche_.emplace(katalog_.Antennen);
-  for (const std::string& zeile : katalog_.zeilen) {
-    zeilen_ << QString::fromStdString(zeile);
-    auto* eintrag = new QListWidgetItem(zeilen_.last());
-    eintrag->setData(Qt::UserRole, int(zeilen_.size()) - 1);
-    LstAntennen->addItem(eintrag);
-  }
-  LstAntennen->setCurrentRow(-1);
+AntennenTab::AntennenTab(Ablauf& ablauf, const Kataloge& kataloge)
+    : ablauf_(ablauf), katalog_(kataloge.antennen), suche_(katalog_.Antennen) {
+  Bauen();
+  Anordnen();
+  Verbinden();
   ListeEingrenzen();
-  if (!katalog_.Meldung.empty()) {
-    Zeigen(plattform_.boxen, zustand_.werte, Fehlermeldung(katalog_.Meldung, "Hinweis"));
-  }
-  if (katalog_.fehler) Zeigen(plattform_.boxen, zustand_.werte, Fehlermeldung(*katalog_.fehler));
+}
+
+void AntennenTab::Bauen() {
+  txtSuche = new QLineEdit(this);
+  txtSuche->setObjectName(u"txtSuche"_s);
+  txtSuche->setAccessibleName(u"Antenne suchen"_s);
+  txtSuche->setPlaceholderText(u"z. B. yagi 144"_s);
+  txtSuche->setClearButtonEnabled(true);
+  lblTreffer = Label(u"lblTreffer"_s, {}, this);
+
+  LstAntennen = Spaltenliste<Auswahlliste>(u"LstAntennen"_s, u"Antennen: Hersteller und Typ"_s, this);
+  LstAntennen->addItems(Qtexte(katalog_.zeilen));
+  List1 = Spaltenliste<Anzeigeliste>(u"List1"_s, u"Bänder der Antenne: MHz, Gewinn in dBi, Elemente"_s, this);
+
+  lblGewaehlt = Label(u"lblGewaehlt"_s, {}, this);
+  lblGewaehlt->setTextFormat(Qt::PlainText);
+  lblAntenne = Label(u"lblAntenne"_s, {}, this);
+  lblAntenne->setTextFormat(Qt::PlainText);
+  lblAntenne->setFrameShape(QFrame::StyledPanel);
+  cmdAntenne = new QPushButton(u"Antenne nehmen"_s, this);
+  cmdAntenne->setObjectName(u"cmdAntenne"_s);
+  cmdAntenne->setAutoDefault(true);
+}
+
+void AntennenTab::Anordnen() {
+  auto* lblSuche = Label(u"lblSuche"_s, u"&Suchen:"_s, this);
+  lblSuche->setBuddy(txtSuche);
+  auto* suche = new QHBoxLayout;
+  suche->addWidget(lblSuche);
+  suche->addWidget(txtSuche, 1);
+  suche->addWidget(lblTreffer);
+
+  // The frame's caption is the head of both lists: the bands stand below its "MHz".
+  const QString kopf = QString::fromStdString(Antennenkopf());
+  auto* rhmAntennen = new QGroupBox(kopf, this);
+  rhmAntennen->setObjectName(u"rhmAntennen"_s);
+  auto* listen = new QHBoxLayout(rhmAntennen);
+  listen->addWidget(LstAntennen);
+  listen->addWidget(List1, 1);
+  LstAntennen->setFixedWidth(fontMetrics().horizontalAdvance(kopf.left(kopf.indexOf(u"MHz"_s))));
+  const int zeichen = List1->fontMetrics().horizontalAdvance(u'0');
+  List1->setMinimumWidth(32 * zeichen);
+  LstAntennen->setMinimumHeight(14 * LstAntennen->fontMetrics().height());
+
+  auto* lblAntDaten = Label(u"lblAntDaten"_s,
+                            u"Antennendaten ohne Gewähr. "
+                            "Die Daten be- ruhen auf Herstelleran- gaben und Anzeigen."_s,
+                            this);
+  lblAntDaten->setWordWrap(true);
+  auto* nehmen = new QHBoxLayout;
+  nehmen->addStretch();
+  nehmen->addWidget(lblGewaehlt);
+  nehmen->addWidget(cmdAntenne);
+  nehmen->addWidget(new QLabel(u"Übernommen:"_s, this));
+  nehmen->addWidget(lblAntenne);
+  lblAntenne->setMinimumWidth(14 * zeichen);
+
+  auto* flaeche = new QVBoxLayout(this);
+  flaeche->addLayout(suche);
+  flaeche->addWidget(rhmAntennen, 1);
+  flaeche->addLayout(nehmen);
+  flaeche->addWidget(lblAntDaten);
+}
+
+void AntennenTab::Verbinden() {
+  txtSuche->installEventFilter(this);
+  connect(txtSuche, &QLineEdit::textChanged, this, &AntennenTab::ListeEingrenzen);
+  connect(LstAntennen, &Auswahlliste::gewaehlt, this, &AntennenTab::Waehlen);
+  connect(LstAntennen, &Auswahlliste::bestaetigt, cmdAntenne,
+          [this] { cmdAntenne->setFocus(Qt::OtherFocusReason); });
+  connect(cmdAntenne, &QPushButton::clicked, this, [this] {
+    // A button that is disabled hands its focus on to anywhere.
+    LstAntennen->setFocus(Qt::OtherFocusReason);
+    ablauf_.Tun(AntenneNehmen);
+  });
+}
+
+void AntennenTab::Zeigen(const Station& s) {
+  const auto index = static_cast<std::size_t>(s.AntennenIndex);
+  const bool gewaehlt = s.AntennenIndex >= 0 && index < katalog_.Antennen.size();
+  const Antenne antenne = gewaehlt ? katalog_.Antennen.at(index) : Antenne();
+  const Antennenwahl wahl = AntenneWaehlen(antenne, s.werte.QRGText);
+  LstAntennen->setCurrentRow(gewaehlt ? s.AntennenIndex : -1);
+  ListeSchreiben(*List1, Qtexte(wahl.zeilen));
+  List1->setCurrentRow(wahl.markiert);
+  Schreiben(*lblGewaehlt, gewaehlt ? "Gewählt: " + antenne.hersteller + ' ' + antenne.typ : std::string());
+  Schreiben(*lblAntenne, s.Datenblattspalten.front().Antenne);
+  cmdAntenne->setEnabled(s.antenneNehmbar);
 }
 
 void AntennenTab::ListeEingrenzen() {
-  if (!suche_) return;
-  const std::vector<bool> treffer = suche_->Treffer(txtSuche->text().toStdString());
+  const std::vector<bool> treffer = suche_.Treffer(txtSuche->text().toStdString());
   const std::string* gruppe = nullptr;
   int anzahl = 0;
   for (int i = 0; i < LstAntennen->count(); ++i) {
-    const auto k = std::size_t(i);
+    const auto k = static_cast<std::size_t>(i);
     const bool zeigen = treffer[k];
     if (LstAntennen->isRowHidden(i) == zeigen) LstAntennen->setRowHidden(i, !zeigen);
     if (!zeigen) continue;
@@ -77,89 +174,30 @@ void AntennenTab::ListeEingrenzen() {
     const std::string& hersteller = katalog_.Antennen[k].hersteller;
     const bool neueGruppe = gruppe == nullptr || *gruppe != hersteller;
     gruppe = &hersteller;
-    const QString zeile = neueGruppe ? MitHersteller(zeilen_.at(i), hersteller) : zeilen_.at(i);
+    QString zeile = QString::fromStdString(katalog_.zeilen[k]);
+    if (neueGruppe) zeile = MitHersteller(std::move(zeile), hersteller);
     if (LstAntennen->item(i)->text() != zeile) LstAntennen->item(i)->setText(zeile);
   }
   // A pending layout would scroll by the places that the lines had before.
   LstAntennen->doItemsLayout();
   const int gewaehlt = LstAntennen->currentRow();
-  if (gewaehlt >= 0 && treffer[std::size_t(gewaehlt)]) LstAntennen->scrollToItem(LstAntennen->item(gewaehlt));
+  if (gewaehlt >= 0 && !LstAntennen->isRowHidden(gewaehlt)) {
+    LstAntennen->scrollToItem(LstAntennen->item(gewaehlt));
+  }
   lblTreffer->setText(u"%1 von %2"_s.arg(anzahl).arg(LstAntennen->count()));
 }
 
 void AntennenTab::ErsteWaehlen() {
   for (int i = 0; i < LstAntennen->count(); ++i) {
     if (LstAntennen->isRowHidden(i)) continue;
-    LstAntennen->setCurrentRow(i);
+    Waehlen(i);
     LstAntennen->setFocus(Qt::OtherFocusReason);
-    AntenneGewaehlt(i);
     return;
   }
 }
 
-void AntennenTab::AntenneGewaehlt(int zeile) {
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] {
-    Rechenwerte& werte = zustand_.werte;
-    AntennenIndex = static_cast<std::int16_t>(LstAntennen->item(zeile)->data(Qt::UserRole).toInt());
-    const Antenne& antenne = katalog_.Antennen.at(std::size_t(AntennenIndex));
-    List1->clear();
-    werte.Pruefergebnis = false;
-    cmdAntenne->setEnabled(true);
-    gewinn_.reset();
-
-    const Antennenwahl wahl = AntenneWaehlen(antenne, werte.QRGText);
-    for (const std::string& band : wahl.zeilen) List1->addItem(QString::fromStdString(band));
-    List1->setCurrentRow(wahl.markiert);
-    gewinn_ = wahl.gewinn;
-    if (wahl.gewinn) werte.GewinnText = *wahl.gewinn;
-    werte.Pruefergebnis = wahl.Passt();
-    if (!wahl.Passt()) return;
-    const QString name = QString::fromStdString(antenne.hersteller + ' ' + antenne.typ).trimmed();
-    Q_EMIT antenneGewaehlt(name, QString::fromStdString(*wahl.gewinn), QString::fromStdString(werte.QRGText));
-  });
-}
-
-void AntennenTab::AntenneNehmen() {
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] {
-    // A button that is disabled hands its focus on to anywhere.
-    LstAntennen->setFocus(Qt::OtherFocusReason);
-    cmdAntenne->setEnabled(false);
-    // The shared flag may have been set by a calculation since; without a gain there is nothing to take.
-    if (zustand_.werte.Pruefergebnis && gewinn_ && AntennenIndex >= 0) {
-      Uebernehmen(katalog_.Antennen.at(std::size_t(AntennenIndex)));
-    } else if (Zahl(zustand_.werte.QRGText) > 0) {
-      Zeigen(plattform_.boxen, zustand_.werte,
-             Fehlermeldung("Die Antenne paßt nicht zur Frequenzvorgabe.\nBitte eine andere Antenne wählen!",
-                           "Fehler"));
-    }
-  });
-}
-
-void AntennenTab::Uebernehmen(const Antenne& antenne) {
-  Rechenwerte& werte = zustand_.werte;
-  const QString gewinn = QString::fromStdString(*gewinn_);
-  lblAntenne->setText(QString::fromStdString(antenne.typ));
-  umgebung_.HauptgewinnSetzen(gewinn);
-  werte.GewinnText = *gewinn_;
-  if (werte.Spalte == 0 || umgebung_.OptionenBeruecksichtigen()) {
-    SatzAendern(zustand_, werte.Spalte, [&](Datenblattspalte& satz) {
-      satz.Antenne = antenne.typ;
-      satz.Gewinn = *gewinn_;
-    });
-    if (werte.Spalte != 0) {
-      umgebung_.ZelleSetzen(werte.Spalte, ZeileGewinn, gewinn);
-      umgebung_.ZelleSetzen(werte.Spalte, ZeileAntenne, lblAntenne->text());
-    }
-  }
-  Neurechnen(zustand_, umgebung_);
-}
-
-void AntennenTab::SatzLaden(const Datenblattspalte& satz) {
-  lblAntenne->setText(QString::fromStdString(satz.Antenne));
-}
-
-void AntennenTab::SatzSchreiben(Datenblattspalte& satz) const {
-  satz.Antenne = lblAntenne->text().toStdString();
+void AntennenTab::Waehlen(int zeile) {
+  ablauf_.Tun(Mit(AntenneGewaehlt, zeile));
 }
 
 bool AntennenTab::eventFilter(QObject* objekt, QEvent* ereignis) {

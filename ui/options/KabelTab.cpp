@@ -1,20 +1,17 @@
-#include "KabelTab.h"
+#include "ui/options/KabelTab.h"
 
-#include <QGuiApplication>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
-#include <QTimer>
-#include <filesystem>
-#include <utility>
 
-#include "Auswahlliste.h"
-#include "Dateien.h"
-#include "Farben.h"
-#include "Meldung.h"
-#include "OptionenUmgebung.h"
-#include "Spaltensatz.h"
-#include "Zahlen.h"
-#include "Zahlenfeld.h"
+#include "station/Haupthandlungen.h"
+#include "ui/basis/Ablauf.h"
+#include "ui/basis/Anzeige.h"
+#include "ui/basis/Auswahlliste.h"
+#include "ui/basis/Farben.h"
+#include "ui/basis/Feldfolge.h"
+#include "ui/basis/Zahlenfeld.h"
 
 namespace vesk {
 
@@ -22,185 +19,126 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Kabelkatalog KatalogLesen(const std::string& verzeichnis) {
-  const Gelesen datei = DateiLesen(std::filesystem::path(verzeichnis) / "Kabel.txt");
-  switch (datei.status) {
-    case Lesestatus::Gelesen:
-      return KabelLaden(datei.bytes);
-    case Lesestatus::Fehlt:
-      return KabelOhneDatei();
-    case Lesestatus::Fehler:
-      break;
-  }
-  return KabelUnlesbar();
-}
+struct Feldart {
+  QStringView name;
+  QStringView beschriftung;
+};
 
-/// A number from a record; what is none, or beyond every range, is 0.
-float ZahlAusSatz(const std::string& text) {
-  try {
-    return Zahl(text);
-  } catch (const Laufzeitfehler&) {
-    return 0;
-  }
+/// In the order of Kabelfeld.
+constexpr std::array<Feldart, Kabeltexte.size()> Feldarten = {{
+    {u"QRG", u"Frequenz [MHz]"},
+    {u"KabelLaenge", u"Kabellänge [m]"},
+    {u"D100", u"Kabeldämpfung je 100m"},
+    {u"Kabeldaempfung", u"Kabeldämpfung [dB]"},
+    {u"Stecker", u"zusätzliche Dämpfung durch Stecker etc. [dB]"},
+    {u"Gesamtdaempfung", u"Dämpfung gesamt [dB]"},
+}};
+
+/// Background of the loss per 100 m; a field that is locked is grey until a look-up says more.
+QColor D100Grund(D100Farbe farbe, bool frei) {
+  if (farbe == D100Farbe::Rot) return farben::Rot;
+  return farbe == D100Farbe::Weiss || frei ? farben::Weiss : farben::HellGrau;
 }
 
 }  // namespace
 
-void KabelTab::Laden() {
-  katalog_ = KatalogLesen(zustand_.ProgrammVerzeichnis);
-  for (const std::string& name : katalog_.liste) lstKabel->addItem(QString::fromStdString(name));
-  lstKabel->setCurrentRow(katalog_.auswahl);
-  D100Sperren(true);
-  if (!katalog_.Meldung.empty()) {
-    Zeigen(plattform_.boxen, zustand_.werte, Fehlermeldung(katalog_.Meldung));
+KabelTab::KabelTab(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton) : kataloge_(kataloge) {
+  Bauen(ton);
+  Anordnen();
+  Verbinden(ablauf);
+}
+
+void KabelTab::Bauen(Signalton& ton) {
+  lstKabel = new Auswahlliste(this);
+  lstKabel->setObjectName(u"lstKabel"_s);
+  lstKabel->setAccessibleName(u"Kabeltyp"_s);
+  for (const std::string& name : kataloge_.kabel.liste) lstKabel->addItem(QString::fromStdString(name));
+
+  for (std::size_t i = 0; i < felder_.size(); ++i) {
+    const Feldart& art = Feldarten.at(i);
+    auto* feld = felder_.at(i) = new Zahlenfeld(ton, this);
+    feld->setObjectName(u"txt"_s + art.name.toString());
+    feld->setAccessibleName(art.beschriftung.toString());
+    feld->setAlignment(Qt::AlignRight);
+    feld->setFixedWidth(fontMetrics().horizontalAdvance(u"0000000000.00"_s));
+    auto* label = beschriftungen_.at(i) = new QLabel(art.beschriftung.toString(), this);
+    label->setObjectName(u"lbl"_s + art.name.toString());
+    label->setBuddy(feld);
   }
-  if (katalog_.fehler) Zeigen(plattform_.boxen, zustand_.werte, Fehlermeldung(*katalog_.fehler));
+  FeldVon(Kabelfeld::D100)->setAccessibleName(u"Kabeldämpfung je 100m [dB]"_s);
+
+  cmdGleich = new QPushButton(u"="_s, this);
+  cmdGleich->setObjectName(u"cmdGleich"_s);
+  cmdGleich->setAccessibleName(u"Kabeldämpfung berechnen und übernehmen"_s);
+  cmdGleich->setAutoDefault(true);
 }
 
-bool KabelTab::IstAnderesKabel() const {
-  const QListWidgetItem* kabel = lstKabel->currentItem();
-  return kabel != nullptr && kabel->text().toStdString() == AnderesKabel;
-}
+void KabelTab::Anordnen() {
+  auto* rhmKabel = new QGroupBox(u"Kabeltyp"_s, this);
+  rhmKabel->setObjectName(u"rhmKabel"_s);
+  auto* rahmen = new QVBoxLayout(rhmKabel);
+  rahmen->addWidget(lstKabel);
 
-void KabelTab::D100Sperren(bool gesperrt) {
-  txtD100->setEnabled(!gesperrt);
-  if (gesperrt) Hintergrund(*txtD100, farben::HellGrau);
-}
-
-void KabelTab::KabelGewaehlt() {
-  rechnungGestellt_ = false;
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] {
-    D100Sperren(!IstAnderesKabel());
-    if (IstAnderesKabel()) {
-      txtD100->setText(u"0"_s);
-      Hintergrund(*txtD100, farben::Rot);
+  auto* zeilen = new QGridLayout;
+  std::vector<QWidget*> folge;
+  int zeile = 0;
+  for (std::size_t i = 0; i < felder_.size(); ++i) {
+    if (felder_.at(i) == FeldVon(Kabelfeld::Gesamtdaempfung)) {
+      zeilen->addWidget(cmdGleich, zeile++, 1);
+      folge.push_back(cmdGleich);
     }
-    Kabeldaempfung();
-    Neurechnen(zustand_, umgebung_);
-  });
-}
-
-void KabelTab::GleichGeklickt() {
-  rechnungGestellt_ = false;
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] {
-    Kabeldaempfung();
-    Neurechnen(zustand_, umgebung_);
-  });
-}
-
-void KabelTab::FrequenzGeaendert() {
-  // On the way to 145 the user types 1 and 14. What such a frequency would say is said when the field is
-  // left.
-  try {
-    const float mhz = Zahl(txtQRG->text().toStdString());
-    if (mhz == 0) return;
-    umgebung_.Bandlogik(mhz, false);
-    Kabeldaempfung();
-    if (zustand_.werte.Spalte == 0) umgebung_.Berechnen(false);
-  } catch (const Laufzeitfehler&) {
-    return;
+    zeilen->addWidget(beschriftungen_.at(i), zeile, 0);
+    zeilen->addWidget(felder_.at(i), zeile++, 1);
+    folge.push_back(felder_.at(i));
   }
+  zeilen->setRowStretch(zeile, 1);
+  new Feldfolge(folge, this);
+
+  auto* flaeche = new QHBoxLayout(this);
+  flaeche->addWidget(rhmKabel, 1);
+  flaeche->addSpacing(fontMetrics().height());
+  flaeche->addLayout(zeilen);
+  flaeche->addStretch(1);
 }
 
-void KabelTab::FrequenzVerlassen() {
-  if (!window()->isVisible()) return;
-  std::string& QRGText = zustand_.werte.QRGText;
-  if (txtQRG->text().isEmpty()) {
-    const QSignalBlocker still(txtQRG);
-    txtQRG->setText(QString::fromStdString(QRGText));
-    return;
+void KabelTab::Verbinden(Ablauf& ablauf) {
+  Zahlenfeld* txtQRG = FeldVon(Kabelfeld::QRG);
+  connect(lstKabel, &Auswahlliste::gewaehlt, this,
+          [&ablauf](int zeile) { ablauf.Tun(Mit(KabelGewaehlt, zeile)); });
+  connect(lstKabel, &Auswahlliste::bestaetigt, txtQRG, [txtQRG] { txtQRG->setFocus(Qt::TabFocusReason); });
+  connect(cmdGleich, &QPushButton::clicked, this, [&ablauf] { ablauf.Tun(KabelGleich); });
+  for (std::size_t i = 0; i < felder_.size(); ++i) {
+    const auto feld = static_cast<Kabelfeld>(i);
+    connect(felder_.at(i), &QLineEdit::textEdited, this, [&ablauf, feld](const QString& text) {
+      ablauf.Tun(Mit(KabelfeldGetippt, feld, text.toStdString()));
+    });
+    connect(felder_.at(i), &Zahlenfeld::gedrueckt, this,
+            [&ablauf, feld] { ablauf.Tun(Mit(KabelfeldGeklickt, feld)); });
   }
-  const bool geaendert = txtQRG->text().toStdString() != QRGText;
-  umgebung_.HauptfrequenzSetzen(txtQRG->text());
-  QRGText = txtQRG->text().toStdString();
-  if (!geaendert || zustand_.werte.Spalte != 0) return;
-  // A box must not open under the press of the mouse that has left the field.
-  rechnungGestellt_ = true;
-  QTimer::singleShot(0, this, [this] { GestellteRechnung(); });
+  connect(txtQRG, &Zahlenfeld::betreten, this,
+          [&ablauf] { ablauf.TunBeimVerlassen(Mit(FeldBetreten, Eingabefeld::KabelQRG)); });
+  connect(txtQRG, &Zahlenfeld::verlassen, this,
+          [&ablauf] { ablauf.TunBeimVerlassen(Mit(FeldVerlassen, Eingabefeld::KabelQRG)); });
 }
 
-void KabelTab::GestellteRechnung() {
-  constexpr int Wartezeit = 20;  // ms
-  if (!rechnungGestellt_) return;
-  if (QGuiApplication::mouseButtons() != Qt::NoButton) {
-    QTimer::singleShot(Wartezeit, this, [this] { GestellteRechnung(); });
-    return;
+void KabelTab::Zeigen(const Station& s) {
+  lstKabel->setCurrentRow(Kabelindex(s, kataloge_));
+  for (std::size_t i = 0; i < felder_.size(); ++i) {
+    Schreiben(*felder_.at(i), s.Datenblattspalten.front().*Kabeltexte.at(i));
   }
-  rechnungGestellt_ = false;
-  if (zustand_.werte.Spalte != 0) return;
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] { umgebung_.Berechnen(true); });
-}
-
-void KabelTab::HauptfrequenzUebernehmen(const QString& text) {
-  {
-    const QSignalBlocker still(txtQRG);
-    txtQRG->setText(text);
+  const bool frei = AnderesKabelGewaehlt(s, kataloge_);
+  for (const Kabelfeld verlust : {Kabelfeld::Kabeldaempfung, Kabelfeld::Gesamtdaempfung}) {
+    const bool veraltet = !KabelAktuell(s) && !FeldVon(verlust)->text().isEmpty();
+    if (veraltet) {
+      ErgebnisFaerben(*FeldVon(verlust), farben::Weiss, true);
+    } else {
+      ThemaFaerben(*FeldVon(verlust));
+      FeldVon(verlust)->setProperty("Veraltet", false);
+    }
   }
-  if (Zahl(txtKabelLaenge->text().toStdString()) != 0) Kabeldaempfung();
-}
-
-void KabelTab::Kabeldaempfung() {
-  Rechenwerte& werte = zustand_.werte;
-  Kabelfelder felder = Felder();
-  try {
-    KabeldaempfungRechnen(katalog_, lstKabel->currentRow(), felder, werte.Pruefergebnis);
-  } catch (const Laufzeitfehler&) {
-    FelderZeigen(felder);
-    throw;
-  }
-  FelderZeigen(felder);
-  werte.DaempfungText = felder.Gesamtdaempfung;
-  umgebung_.HauptverlusteSetzen(txtGesamtdaempfung->text());
-  if (!umgebung_.OptionenBeruecksichtigen()) return;
-
-  SatzAendern(zustand_, werte.Spalte, [&](Datenblattspalte& satz) {
-    satz.Modulationsfaktor = Formatieren(werte.Modulationsfaktor);
-    satz.Zyklusfaktor = Formatieren(werte.Zyklusfaktor);
-    SatzSchreiben(satz);
-  });
-  if (werte.Spalte != 0) umgebung_.ZelleSetzen(werte.Spalte, ZeileVerluste, txtGesamtdaempfung->text());
-}
-
-Kabelfelder KabelTab::Felder() const {
-  return {.QRG = txtQRG->text().toStdString(),
-          .D100 = txtD100->text().toStdString(),
-          .KabelLaenge = txtKabelLaenge->text().toStdString(),
-          .Kabeldaempfung = txtKabeldaempfung->text().toStdString(),
-          .Stecker = txtStecker->text().toStdString(),
-          .Gesamtdaempfung = txtGesamtdaempfung->text().toStdString()};
-}
-
-void KabelTab::FelderZeigen(const Kabelfelder& felder) {
-  txtD100->setText(QString::fromStdString(felder.D100));
-  txtKabeldaempfung->setText(QString::fromStdString(felder.Kabeldaempfung));
-  txtGesamtdaempfung->setText(QString::fromStdString(felder.Gesamtdaempfung));
-  if (felder.farbe == D100Farbe::Unveraendert) return;
-  Hintergrund(*txtD100, felder.farbe == D100Farbe::Rot ? farben::Rot : farben::Weiss);
-}
-
-void KabelTab::SatzLaden(const Datenblattspalte& satz) {
-  bool zahl = false;
-  const int index = QString::fromStdString(satz.KabelIndex).toInt(&zahl);
-  lstKabel->setCurrentRow(zahl && index >= 0 && index < lstKabel->count() ? index : -1);
-  const QSignalBlocker still(txtQRG);
-  txtQRG->setText(QString::fromStdString(satz.QRG));
-  txtKabelLaenge->setText(QString::fromStdString(satz.KabelLaenge));
-  txtStecker->setText(QString::fromStdString(satz.Stecker));
-  FelderZeigen(
-      {.D100 = satz.D100, .Kabeldaempfung = satz.Kabeldaempfung, .Gesamtdaempfung = satz.Gesamtdaempfung});
-  D100Sperren(!IstAnderesKabel());
-  if (IstAnderesKabel()) Hintergrund(*txtD100, ZahlAusSatz(satz.D100) == 0 ? farben::Rot : farben::Weiss);
-}
-
-void KabelTab::SatzSchreiben(Datenblattspalte& satz) const {
-  const Kabelfelder felder = Felder();
-  satz.KabelLaenge = felder.KabelLaenge;
-  satz.KabelIndex = std::to_string(lstKabel->currentRow());
-  satz.D100 = felder.D100;
-  satz.Kabeldaempfung = felder.Kabeldaempfung;
-  satz.Stecker = felder.Stecker;
-  satz.Gesamtdaempfung = felder.Gesamtdaempfung;
-  satz.QRG = felder.QRG;
+  Zahlenfeld* txtD100 = FeldVon(Kabelfeld::D100);
+  txtD100->setEnabled(frei);
+  Faerben(*txtD100, D100Grund(s.farbeD100, frei));
 }
 
 }  // namespace vesk

@@ -1,8 +1,8 @@
-#include "OptionenHilfe.h"
+#include "ui/options/OptionenHilfe.h"
 
 #include <QRadioButton>
 
-#include "Feldhilfe.h"
+#include "ui/basis/Feldhilfe.h"
 
 namespace vesk {
 

@@ -1,21 +1,18 @@
-#include "SendeartTab.h"
+#include "ui/options/SendeartTab.h"
 
-#include <QButtonGroup>
+#include <QBoxLayout>
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 
-#include "Datenblattspalte.h"
-#include "Farben.h"
-#include "Meldung.h"
-#include "OptionenUmgebung.h"
-#include "Plattform.h"
-#include "Spaltensatz.h"
-#include "Zahlen.h"
-#include "Zahlenfeld.h"
-#include "Zustand.h"
+#include "engine/Zahlen.h"
+#include "station/Optionen.h"
+#include "ui/basis/Ablauf.h"
+#include "ui/basis/Anzeige.h"
+#include "ui/basis/Farben.h"
+#include "ui/basis/Zahlenfeld.h"
 
 namespace vesk {
 
@@ -23,169 +20,120 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Formatiert(float wert) {
-  return QString::fromStdString(Formatieren(wert));
+constexpr std::array<QStringView, Sendearten.size()> SendeartNamen = {
+    u"Telegrafie",          u"SSB (mit Prozessor)",
+    u"AM (50% Modulation)", u"FM",
+    u"Packet Radio, SSTV",  u"ATV",
+    u"Digital (GSM)",       u"Alle"};
+
+constexpr std::array<QStringView, AnzahlZyklen> ZyklusNamen = {u"TX 1Min - RX 5Min", u"TX 2Min - RX 4Min",
+                                                               u"TX 3Min - RX 3Min", u"TX 4Min - RX 2Min",
+                                                               u"TX 5Min - RX 1Min", u"TX 6Min - RX 0Min"};
+
+constexpr std::array<QStringView, 3> TypNamen = {u"AM (AFu)", u"TV (Fernsehmodulation)", u"GSM"};
+
+/// A frame with one button per name, in a row or column, as control array `feld`.
+template <typename Knopf, std::size_t N>
+QGroupBox* Reihe(const QString& name, const QString& titel, QBoxLayout::Direction richtung,
+                 const QString& feld, const std::array<QStringView, N>& namen, std::array<Knopf*, N>& knoepfe,
+                 QWidget* eltern) {
+  auto* rahmen = new QGroupBox(titel, eltern);
+  rahmen->setObjectName(name);
+  auto* reihe = new QBoxLayout(richtung, rahmen);
+  for (std::size_t i = 0; i < N; ++i) {
+    knoepfe.at(i) = new Knopf(namen.at(i).toString(), rahmen);
+    knoepfe.at(i)->setObjectName(feld + u'_' + QString::number(i));
+    reihe->addWidget(knoepfe.at(i));
+  }
+  reihe->addStretch();
+  return rahmen;
 }
 
-QString Faktortext() {
-  return u"Faktor für Sendeart: "_s;
+QLabel* Beschriftung(const QString& name, const QString& text, QLineEdit& feld) {
+  auto* label = new QLabel(text, feld.parentWidget());
+  label->setObjectName(name);
+  label->setBuddy(&feld);
+  return label;
 }
 
 }  // namespace
 
-void SendeartTab::Laden() {
-  lblMod1->setText(
+SendeartTab::SendeartTab(Ablauf& ablauf, Signalton& ton) {
+  // In the order of the focus.
+  rhmModulationsart = Reihe(u"rhmModulationsart"_s, u"Modulationsart"_s, QBoxLayout::TopToBottom,
+                            u"chkBetriebsart"_s, SendeartNamen, chkBetriebsart, this);
+  rhmCycle = Reihe(u"rhmCycle"_s, u"Sende/Empfangs- Zyklus"_s, QBoxLayout::TopToBottom, u"optDuty"_s,
+                   ZyklusNamen, optDuty, this);
+  rhmBetriebsart = Reihe(u"rhmBetriebsart"_s, u"Berechnung für Grenzwerttyp (nur für VDE 0848 Teil 3-1)"_s,
+                         QBoxLayout::LeftToRight, u"optSSB"_s, TypNamen, optSSB, this);
+  txtSelectedModes = new QLineEdit(this);
+  txtSelectedModes->setObjectName(u"txtSelectedModes"_s);
+  txtSelectedModes->setReadOnly(true);
+  txtSelectedModes->setAccessibleName(u"Gewählte Betriebsarten"_s);
+  txtFaktorB = new Zahlenfeld(ton, this);
+  txtFaktorB->setObjectName(u"txtFaktorB"_s);
+  txtFaktorB->setAccessibleName(u"Faktor für Sendeart"_s);
+  Anordnen();
+  Verbinden(ablauf);
+}
+
+void SendeartTab::Anordnen() {
+  auto* lblMod1 = new QLabel(
       u"Bitte die gewünschte Betriebsart ankreuzen. (Mehrfachauswahl zulässig)\n"
-      "Der ermittelte Faktor wirkt sich nicht auf HSM- Berechnungen aus!"_s);
-  rhmBetriebsart->setEnabled(true);
-  GrenzwerttypSetzen(GrenzwertAM);
+      "Der ermittelte Faktor wirkt sich nicht auf HSM- Berechnungen aus!"_s,
+      this);
+  lblMod1->setObjectName(u"lblMod1"_s);
+  lblMod1->setWordWrap(true);
+  auto* gitter = new QGridLayout(this);
+  gitter->addWidget(lblMod1, 0, 0, 1, 2);
+  gitter->addWidget(rhmModulationsart, 1, 0);
+  gitter->addWidget(rhmCycle, 1, 1);
+  gitter->addWidget(rhmBetriebsart, 2, 0, 1, 2);
+
+  const int ziffer = fontMetrics().horizontalAdvance(u'0');
+  txtFaktorB->setFixedWidth(9 * ziffer);
+  auto* ergebnis = new QHBoxLayout;
+  ergebnis->addWidget(Beschriftung(u"lblSelectedModes"_s, u"Gewählte Betriebsarten: "_s, *txtSelectedModes));
+  ergebnis->addWidget(txtSelectedModes, 1);
+  ergebnis->addSpacing(2 * ziffer);
+  ergebnis->addWidget(Beschriftung(u"lblFaktorB"_s, u"Faktor für Sendeart: "_s, *txtFaktorB));
+  ergebnis->addWidget(txtFaktorB);
+  gitter->addLayout(ergebnis, 3, 0, 1, 2);
+  gitter->setRowStretch(4, 1);
+  gitter->setColumnStretch(0, 1);
+  gitter->setColumnStretch(1, 1);
 }
 
-void SendeartTab::Vorbelegen() {
-  chkBetriebsart.back()->setChecked(true);
-  Startfaktoren();
-  ModulationsFaktorErmitteln();
-}
-
-void SendeartTab::Startfaktoren() {
-  ZyklusSetzen({AnzahlZyklen - 1, 1.0F});
-  zustand_.werte.Modulationsfaktor = 1.0F;
-  FaktorZeigen();
-}
-
-void SendeartTab::BetriebsartGeklickt(int index) {
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] {
-    OptionModulation(index);
-    ModulationsFaktorErmitteln();
-    if (Faktor(zustand_.werte) < 1.0F) WarnMeldungFaktor();
-    Neurechnen(zustand_, umgebung_);
-  });
-}
-
-void SendeartTab::OptionModulation(int index) {
-  const auto folge = vesk::OptionModulation(Kreuze(), index);
-  if (!folge) return;
-  GrenzwerttypSetzen(folge->typ);
-  KreuzeSetzen(folge->kreuze);
-}
-
-void SendeartTab::ModulationsFaktorErmitteln() {
-  Rechenwerte& werte = zustand_.werte;
-  const Sendeartwahl wahl = vesk::ModulationsFaktorErmitteln(Kreuze());
-  werte.Modulationsfaktor = wahl.faktor;
-  txtSelectedModes->setText(QString::fromStdString(wahl.text));
-  lblFaktorB->setText(Faktortext());
-  FaktorZeigen();
-  if (!umgebung_.OptionenBeruecksichtigen()) return;
-
-  umgebung_.ModIdxSetzen(Faktortext() + Formatiert(Faktor(werte)));
-  for (const std::int16_t spalte : {werte.Spalte, std::int16_t{0}}) {
-    FeldSetzen(zustand_, spalte, &Datenblattspalte::Modulationsfaktor, Formatieren(werte.Modulationsfaktor));
-    FeldSetzen(zustand_, spalte, &Datenblattspalte::Zyklusfaktor, Formatieren(werte.Zyklusfaktor));
-  }
-  if (werte.Spalte != 0) umgebung_.ZelleSetzen(werte.Spalte, ZeileBetriebsarten, txtSelectedModes->text());
-}
-
-void SendeartTab::ModulationsArtAnkreuzen() {
-  const QString zelle = umgebung_.Zelle(zustand_.werte.Spalte, ZeileBetriebsarten);
-  lblFaktorB->setText(Faktortext() + u"1.00"_s);
-  KreuzeSetzen(vesk::ModulationsArtAnkreuzen(zelle.toStdString()));
-  ModulationsFaktorErmitteln();
-}
-
-void SendeartTab::ZyklusfaktorErmitteln() {
-  zustand_.werte.Zyklusfaktor = 1.0F;
-  for (int i = 0; i < AnzahlZyklen; ++i) {
-    if (optDuty.at(std::size_t(i))->isChecked()) zustand_.werte.Zyklusfaktor = ZyklusfaktorVon(i);
-  }
-}
-
-void SendeartTab::ZyklusGeklickt() {
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] {
-    ZyklusfaktorErmitteln();
-    FaktorZeigen();
-    if (Faktor(zustand_.werte) < 1.0F) WarnMeldungFaktor();
-    const std::int16_t spalte = zustand_.werte.Spalte;
-    if (spalte == 0 || umgebung_.OptionenBeruecksichtigen()) {
-      FeldSetzen(zustand_, spalte, &Datenblattspalte::Zyklusfaktor, Formatieren(zustand_.werte.Zyklusfaktor));
+void SendeartTab::Verbinden(Ablauf& ablauf) {
+  const auto melden = [&](const auto& knoepfe, auto tun) {
+    for (std::size_t i = 0; i < knoepfe.size(); ++i) {
+      connect(knoepfe.at(i), &QAbstractButton::clicked, this,
+              [&ablauf, tun, i] { ablauf.Tun(Mit(tun, static_cast<int>(i))); });
     }
-    Neurechnen(zustand_, umgebung_);
-  });
+  };
+  melden(chkBetriebsart, BetriebsartGeklickt);
+  melden(optDuty, ZyklusGeklickt);
+  melden(optSSB, GrenzwerttypGeklickt);
+  // What is typed here is never read; left alone, the field shows the factor in force again.
+  connect(txtFaktorB, &Zahlenfeld::verlassen, this,
+          [&ablauf] { ablauf.TunBeimVerlassen([](Station&, const Kataloge&) { return Meldungen(); }); });
 }
 
-void SendeartTab::GrenzwerttypGeklickt(int index) {
-  Abgefangen(plattform_.boxen, zustand_.werte, [&] {
-    GrenzwerttypSetzen(static_cast<std::int16_t>(index));
-    Neurechnen(zustand_, umgebung_);
-  });
-}
-
-void SendeartTab::GrenzwerttypSetzen(std::int16_t typ) {
-  optSSB.at(std::size_t(typ))->setChecked(true);
-  zustand_.werte.Grenzwerttyp = typ;
-  for (const std::int16_t spalte : {zustand_.werte.Spalte, std::int16_t{0}}) {
-    FeldSetzen(zustand_, spalte, &Datenblattspalte::Grenzwerttyp, typ);
+void SendeartTab::Zeigen(const Station& s) {
+  for (std::size_t i = 0; i < s.kreuze.size(); ++i) Ankreuzen(*chkBetriebsart.at(i), s.kreuze.at(i));
+  for (std::size_t i = 0; i < optDuty.size(); ++i) {
+    const int nummer = static_cast<int>(i);
+    Ankreuzen(*optDuty.at(i), nummer == s.zyklus);
+    // Tab goes to the selected one; the others are reached by the cursor keys.
+    optDuty.at(i)->setFocusPolicy(nummer == std::max(s.zyklus, 0) ? Qt::StrongFocus : Qt::ClickFocus);
   }
-}
-
-void SendeartTab::WarnMeldungFaktor() {
-  if (!umgebung_.MeldungenAn() || zustand_.einstellungen.FaktorMeldungAus) return;
-  const Antwort antwort = Zeigen(plattform_.boxen, zustand_.werte, FaktorHinweis());
-  zustand_.einstellungen.FaktorMeldungAus = antwort != Antwort::Ja;
-}
-
-void SendeartTab::FaktorZeigen() {
-  const float faktor = Faktor(zustand_.werte);
-  txtFaktorB->setText(Formatiert(faktor));
-  Hintergrund(*txtFaktorB, faktor < 1.0F ? farben::Gruen : farben::HellGruen);
-}
-
-void SendeartTab::ZyklusSetzen(const Zykluswahl& wahl) {
-  zyklen_->setExclusive(false);
-  for (int i = 0; i < AnzahlZyklen; ++i) optDuty.at(std::size_t(i))->setChecked(i == wahl.option);
-  zyklen_->setExclusive(true);
-  zustand_.werte.Zyklusfaktor = wahl.faktor;
-}
-
-Sendeartkreuze SendeartTab::Kreuze() const {
-  Sendeartkreuze kreuze{};
-  for (std::size_t i = 0; i < kreuze.size(); ++i) kreuze.at(i) = chkBetriebsart.at(i)->isChecked();
-  return kreuze;
-}
-
-void SendeartTab::KreuzeSetzen(const Sendeartkreuze& kreuze) {
-  for (std::size_t i = 0; i < kreuze.size(); ++i) chkBetriebsart.at(i)->setChecked(kreuze.at(i));
-}
-
-void SendeartTab::SatzLaden(const Datenblattspalte& satz) {
-  const std::int16_t spalte = zustand_.werte.Spalte;
-  GrenzwerttypSetzen(satz.Grenzwerttyp >= GrenzwertAM && satz.Grenzwerttyp <= GrenzwertGSM
-                         ? satz.Grenzwerttyp
-                         : std::int16_t{GrenzwertAM});
-  ZyklusSetzen(ZyklusAusText(satz.Zyklusfaktor));
-  if (spalte == 0) {
-    // The working record holds no modes: the boxes stand, and the factor stays what they say.
-    ModulationsFaktorErmitteln();
-  } else if (!umgebung_.OptionenBeruecksichtigen()) {
-    ModulationsArtAnkreuzen();
-  } else {
-    // The cell holds at most three abbreviations, so that the factor of more modes is only in the record.
-    const QString zelle = umgebung_.Zelle(spalte, ZeileBetriebsarten);
-    KreuzeSetzen(KreuzeAusKuerzeln(zelle.toStdString()));
-    txtSelectedModes->setText(zelle);
-    zustand_.werte.Modulationsfaktor = FaktorAusText(satz.Modulationsfaktor);
-    FaktorZeigen();
+  for (std::size_t i = 0; i < optSSB.size(); ++i) {
+    Ankreuzen(*optSSB.at(i), static_cast<int>(i) == s.werte.Grenzwerttyp);
   }
-}
-
-void SendeartTab::SatzSchreiben(Datenblattspalte& satz) const {
-  satz.Modulationsfaktor = Formatieren(zustand_.werte.Modulationsfaktor);
-  satz.Zyklusfaktor = Formatieren(zustand_.werte.Zyklusfaktor);
-  satz.Grenzwerttyp = zustand_.werte.Grenzwerttyp;
-}
-
-QString SendeartTab::GewaehlteSendearten() const {
-  return txtSelectedModes->text();
+  const float faktor = Faktor(s.werte);
+  Schreiben(*txtSelectedModes, s.SelectedModes);
+  Schreiben(*txtFaktorB, Formatieren(faktor));
+  Faerben(*txtFaktorB, faktor < 1.0F ? farben::Gruen : farben::HellGruen);
 }
 
 }  // namespace vesk

@@ -1,4 +1,4 @@
-#include "Winkelbild.h"
+#include "ui/options/Winkelbild.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <QWidget>
 
-#include "Polardiagramm.h"
+#include "print/Polardiagramm.h"
 
 namespace vesk {
 

@@ -1,22 +1,19 @@
-#include "frmLstg.h"
+#include "ui/power/frmLstg.h"
 
-#include <QApplication>
-#include <QFocusEvent>
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
-#include "Feldhilfe.h"
-#include "Laufzeitfehler.h"
-#include "Leistungsumrechnung.h"
-#include "Meldung.h"
-#include "Rechenwerte.h"
-#include "Version.h"
-#include "Zahlenfeld.h"
+#include "engine/Version.h"
+#include "station/Leistungsumrechnung.h"
+#include "ui/basis/Ablauf.h"
+#include "ui/basis/Feldfolge.h"
+#include "ui/basis/Feldhilfe.h"
+#include "ui/basis/Zahlenfeld.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,79 +21,52 @@ namespace vesk {
 
 namespace {
 
-constexpr Feldhilfe Tooltips[] = {
-    {u"txtWatt", u"Diese Felder dienen zur Umrechnung von Watt, dBW und dbm. "},
-    {u"txtDBW", u"Diese Felder dienen zur Umrechnung von Watt, dBW und dbm. "},
-    {u"txtDBm", u"Diese Felder dienen zur Umrechnung von Watt, dBW und dbm. "},
-};
+constexpr QStringView Tooltip = u"Diese Felder dienen zur Umrechnung von Watt, dBW und dbm. ";
+constexpr Feldhilfe Tooltips[] = {{u"txtWatt", Tooltip}, {u"txtDBW", Tooltip}, {u"txtDBm", Tooltip}};
 
 constexpr Hilfenummer Hilfenummern[] = {
     {u"txtDBm", 3001}, {u"txtDBW", 3002}, {u"txtWatt", 3003}, {u"rhmLeistung", 3004}, {u"lblReferat", 3005},
 };
 
-/// Whether the focus has gone to another working window of the program: not to a box, which comes back, and
-/// not to another program.
-bool ZuAnderemFenster(const QWidget& fenster) {
-  const QWidget* aktiv = QApplication::activeWindow();
-  return aktiv != nullptr && aktiv != &fenster && !aktiv->isModal();
+Meldungen Abgelehnt(const char* text) {
+  return {Meldung{{"Hinweis", text}}};
 }
 
 }  // namespace
 
-frmLstg::frmLstg(Plattform& plattform, Rechenwerte& werte, char trenner, QWidget* eltern)
-    : QDialog(eltern),
-      plattform_(plattform),
-      werte_(werte),
-      trenner_(trenner),
-      rhmLeistung(new QGroupBox(u"Leistungsumrechnung"_s, this)),
-      txtDBm(new Zahlenfeld(werte, plattform.ton, this)),
-      txtDBW(new Zahlenfeld(werte, plattform.ton, this)),
-      txtWatt(new Zahlenfeld(werte, plattform.ton, this)),
-      lblDBm(new QLabel(u"Leistung in dBm"_s, this)),
-      lblDBW(new QLabel(u"Leistung in dBW"_s, this)),
-      lblWatt(new QLabel(u"Leistung in Watt"_s, this)),
-      lblReferat(new QLabel(this)),
-      felder_{txtDBm, txtDBW, txtWatt} {
+frmLstg::frmLstg(Ablauf& ablauf, Signalton& ton, char trenner, QWidget* eltern)
+    : QDialog(eltern), ablauf_(ablauf), trenner_(trenner) {
   setObjectName(u"frmLstg"_s);
   setWindowTitle(u"Leistungsumrechnung"_s);
   setProperty(HilfekontextEigenschaft, 3001);
-  Aufbauen();
+  Aufbauen(ton);
   HilfenummernSetzen(*this, Hilfenummern);
-  for (Zahlenfeld* feld : felder_) {
-    connect(feld, &Zahlenfeld::gefiltert, this, [this, feld](int zeichen) { Gefiltert(*feld, zeichen); });
-    connect(feld, &QLineEdit::textEdited, this, [this, feld] { Bearbeitet(*feld); });
-    feld->installEventFilter(this);
-  }
+  new Feldfolge({felder_.begin(), felder_.end()}, this, Folgetasten::Auf);
+  for (Zahlenfeld* feld : felder_) FeldVerbinden(*feld);
 }
 
-void frmLstg::Aufbauen() {
-  struct Zeile {
-    QLabel* label;
-    Zahlenfeld* feld;
-    QString labelname;
-    QString feldname;
-  };
-  const Zeile zeilen[] = {
-      {lblDBm, txtDBm, u"lblDBm"_s, u"txtDBm"_s},
-      {lblDBW, txtDBW, u"lblDBW"_s, u"txtDBW"_s},
-      {lblWatt, txtWatt, u"lblWatt"_s, u"txtWatt"_s},
-  };
-  auto* gitter = new QGridLayout(rhmLeistung);
-  int nummer = 0;
-  for (const Zeile& zeile : zeilen) {
-    zeile.label->setObjectName(zeile.labelname);
-    zeile.label->setBuddy(zeile.feld);
-    zeile.feld->setObjectName(zeile.feldname);
-    zeile.feld->setAccessibleName(zeile.label->text());
-    zeile.feld->setAlignment(Qt::AlignRight);
-    zeile.feld->setMinimumWidth(fontMetrics().horizontalAdvance(u"000000000000.000"_s));
-    gitter->addWidget(zeile.label, nummer, 0);
-    gitter->addWidget(zeile.feld, nummer, 1);
-    ++nummer;
-  }
-  gitter->setColumnStretch(1, 1);
-
+void frmLstg::Aufbauen(Signalton& ton) {
+  auto* rhmLeistung = new QGroupBox(u"Leistungsumrechnung"_s, this);
   rhmLeistung->setObjectName(u"rhmLeistung"_s);
+  auto* gitter = new QGridLayout(rhmLeistung);
+  gitter->setColumnStretch(1, 1);
+  const QString einheiten[] = {u"DBm"_s, u"DBW"_s, u"Watt"_s};
+  const QString beschriftungen[] = {u"Leistung in dBm"_s, u"Leistung in dBW"_s, u"Leistung in Watt"_s};
+  for (std::size_t i = 0; i < felder_.size(); ++i) {
+    auto* feld = new Zahlenfeld(ton, rhmLeistung);
+    feld->setObjectName(u"txt"_s + einheiten[i]);
+    feld->setAccessibleName(beschriftungen[i]);
+    feld->setAlignment(Qt::AlignRight);
+    feld->setMinimumWidth(fontMetrics().horizontalAdvance(u"000000000000.000"_s));
+    feld->VorzeichenErlauben(Leistungseinheit{i} != Leistungseinheit::Watt);
+    auto* label = new QLabel(beschriftungen[i], rhmLeistung);
+    label->setObjectName(u"lbl"_s + einheiten[i]);
+    label->setBuddy(feld);
+    gitter->addWidget(label, int(i), 0);
+    gitter->addWidget(feld, int(i), 1);
+    felder_[i] = feld;
+  }
+  auto* lblReferat = new QLabel(this);
   lblReferat->setObjectName(u"lblReferat"_s);
   lblReferat->setText(QString::fromUtf8(Produktname.data(), Produktname.size()) + u' ' +
                       QString::fromStdString(VersionLang()) + u" – Alle Angaben ohne Gewähr"_s);
@@ -108,25 +78,35 @@ void frmLstg::Aufbauen() {
   spalte->addStretch();
 }
 
-void frmLstg::ToolTips(bool an) {
-  TooltipsSetzen(*this, Tooltips, an);
+void frmLstg::FeldVerbinden(Zahlenfeld& feld) {
+  feld.installEventFilter(this);
+  connect(&feld, &Zahlenfeld::betreten, this, [this, &feld] { Betreten(feld); });
+  connect(&feld, &Zahlenfeld::verlassen, this, [this, &feld] { Verlassen(feld); });
+  connect(&feld, &Zahlenfeld::gefiltert, this, [this](int zeichen) {
+    if (ergebnisGezeigt_ && zeichen != 0) Leeren();
+  });
+  connect(&feld, &QLineEdit::textEdited, this, [this, &feld] {
+    ergebnisGezeigt_ = false;
+    erledigt_.reset();
+    for (Zahlenfeld* anderes : felder_) {
+      if (anderes != &feld) anderes->clear();
+    }
+  });
 }
 
-void frmLstg::setVisible(bool sichtbar) {
-  schliesst_ = !sichtbar;
-  if (sichtbar && !isVisible()) {
-    unterbrochenes_.clear();
-    Leeren();
-  }
-  QDialog::setVisible(sichtbar);
+void frmLstg::Zeigen(const Station& station) {
+  if (tooltips_ == station.einstellungen.ToolTips) return;
+  tooltips_ = station.einstellungen.ToolTips;
+  TooltipsSetzen(*this, Tooltips, *tooltips_);
+}
+
+void frmLstg::showEvent(QShowEvent* ereignis) {
+  if (!ereignis->spontaneous()) Leeren();
+  QDialog::showEvent(ereignis);
 }
 
 bool frmLstg::eventFilter(QObject* objekt, QEvent* ereignis) {
   auto* feld = qobject_cast<Zahlenfeld*>(objekt);
-  if (feld != nullptr && ereignis->type() == QEvent::FocusIn) Betreten(*feld);
-  if (feld != nullptr && ereignis->type() == QEvent::FocusOut) {
-    Verlassen(*feld, static_cast<QFocusEvent*>(ereignis)->reason());
-  }
   if (feld != nullptr && ereignis->type() == QEvent::KeyPress) {
     const auto* taste = static_cast<QKeyEvent*>(ereignis);
     const auto zusatz = taste->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
@@ -136,120 +116,71 @@ bool frmLstg::eventFilter(QObject* objekt, QEvent* ereignis) {
 }
 
 void frmLstg::Betreten(Zahlenfeld& feld) {
-  const bool zurueck = unterbrochenes_ == &feld;
-  unterbrochenes_.clear();
-  if (!zurueck) Leeren();
-  werte_.MinusErlaubt = MinusMoeglich(feld);
+  // The focus is told to the new field first.
+  if (inArbeit_ != nullptr && inArbeit_ != &feld) Verlassen(*inArbeit_);
+  inArbeit_ = &feld;
+  Leeren();
 }
 
-void frmLstg::Verlassen(Zahlenfeld& feld, Qt::FocusReason grund) {
-  werte_.MinusErlaubt = false;
-  const bool nurUnterbrochen = grund == Qt::PopupFocusReason || grund == Qt::MenuBarFocusReason ||
-                               (grund == Qt::ActiveWindowFocusReason && !ZuAnderemFenster(*this));
-  if (schliesst_ || nurUnterbrochen) {
-    unterbrochenes_ = &feld;
-  } else if (feld.text() != erledigt_) {
-    Umwandeln(feld, Anlass::Verlassen);
-  }
+void frmLstg::Verlassen(Zahlenfeld& feld) {
+  if (inArbeit_ != &feld) return;
+  inArbeit_ = nullptr;
+  // A window that is hidden takes the focus away; that is no leaving.
+  if (!isHidden() && feld.text() != erledigt_) ablauf_.TunBeimVerlassen(Umwandelnd(feld));
 }
 
 bool frmLstg::TasteUnten(Zahlenfeld& feld, int taste) {
   switch (taste) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      // The field's own handler passes the key on to the filter, which notes Enter.
-      Umwandeln(feld, Anlass::Taste);
-      return false;
-    case Qt::Key_Down:
-      Umwandeln(feld, Anlass::Taste);
-      return true;
-    case Qt::Key_Up:
-      if (&feld != txtDBm) (&feld == txtWatt ? txtDBW : txtDBm)->setFocus(Qt::BacktabFocusReason);
+      ablauf_.Tun(Umwandelnd(feld));
+      ergebnisGezeigt_ = true;
+      feld.selectAll();
       return true;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
       // Moving on would clear the result at once, so the first Tab only converts.
       if (feld.text().isEmpty() || feld.text() == erledigt_) return false;
-      Umwandeln(feld, Anlass::Taste);
+      ablauf_.Tun(Umwandelnd(feld));
+      return true;
+    case Qt::Key_Down:
+      ablauf_.Tun(Umwandelnd(feld));
       return true;
     default:
       return false;
   }
 }
 
-void frmLstg::Gefiltert(Zahlenfeld& feld, int zeichen) {
-  constexpr int Rueckschritt = 8;
-  if (werte_.EnterGedrueckt) {
-    werte_.EnterGedrueckt = false;
-    ergebnisGezeigt_ = true;
-    feld.selectAll();
-    werte_.MinusErlaubt = MinusMoeglich(feld);
-  } else if (ergebnisGezeigt_ && zeichen != 0) {
-    Leeren();
-    werte_.MinusErlaubt = MinusMoeglich(feld) && (zeichen == '-' || zeichen == Rueckschritt);
-  } else if (ergebnisGezeigt_) {
-    werte_.MinusErlaubt = MinusMoeglich(feld);
-  }
+Handlung frmLstg::Umwandelnd(Zahlenfeld& feld) {
+  return [this, &feld](Station&, const Kataloge&) { return Umwandeln(feld); };
 }
 
-void frmLstg::Bearbeitet(Zahlenfeld& feld) {
-  if (ergebnisGezeigt_) {
-    // Pasted over or cut: no key passed the filter, but what the other fields show belongs to the old value.
-    ergebnisGezeigt_ = false;
-    erledigt_.reset();
-    for (Zahlenfeld* anderes : felder_) {
-      if (anderes != &feld) anderes->clear();
-    }
-  }
-  if (feld.text().isEmpty()) werte_.MinusErlaubt = MinusMoeglich(feld);
-}
-
-void frmLstg::Umwandeln(Zahlenfeld& feld, Anlass anlass) {
-  std::size_t quelle = 0;
-  while (felder_[quelle] != &feld) ++quelle;
+Meldungen frmLstg::Umwandeln(Zahlenfeld& feld) {
+  const auto quelle =
+      static_cast<std::size_t>(std::find(felder_.begin(), felder_.end(), &feld) - felder_.begin());
   erledigt_ = feld.text();
-  try {
-    const Leistungsumrechnung umrechnung =
-        Umrechnen(Leistungseinheit{quelle}, feld.text().toStdString(), trenner_);
-    switch (umrechnung.ergebnis) {
-      case Umrechnungsergebnis::Leer:
-        break;
-      case Umrechnungsergebnis::Umgerechnet:
-        for (std::size_t i = 0; i < felder_.size(); ++i) {
-          if (i != quelle) felder_[i]->setText(QString::fromStdString(umrechnung.texte[i]));
-        }
-        break;
-      case Umrechnungsergebnis::ZuGross:
-        Melden({"Hinweis", "Der eingegebene Wert ist zu groß\n10 Mega Watt = 70 dBW oder 100 dBm"}, anlass);
-        break;
-      case Umrechnungsergebnis::NichtPositiv:
-        Melden({"Hinweis", "Der eingegebene Wert muß größer Null sein"}, anlass);
-        break;
-    }
-  } catch (const Laufzeitfehler& fehler) {
-    Melden(Fehlermeldung(fehler.art), anlass);
+  const Leistungsumrechnung umrechnung =
+      Umrechnen(Leistungseinheit{quelle}, feld.text().toStdString(), trenner_);
+  switch (umrechnung.ergebnis) {
+    case Umrechnungsergebnis::Leer:
+      break;
+    case Umrechnungsergebnis::Umgerechnet:
+      for (std::size_t i = 0; i < felder_.size(); ++i) {
+        if (i != quelle) felder_[i]->setText(QString::fromStdString(umrechnung.texte[i]));
+      }
+      break;
+    case Umrechnungsergebnis::ZuGross:
+      return Abgelehnt("Der eingegebene Wert ist zu groß\n10 Mega Watt = 70 dBW oder 100 dBm");
+    case Umrechnungsergebnis::NichtPositiv:
+      return Abgelehnt("Der eingegebene Wert muß größer Null sein");
   }
+  return {};
 }
 
 void frmLstg::Leeren() {
   for (Zahlenfeld* feld : felder_) feld->clear();
   ergebnisGezeigt_ = false;
   erledigt_.reset();
-}
-
-bool frmLstg::MinusMoeglich(const Zahlenfeld& feld) const {
-  // Only where the next character can lead a value: the field is empty or about to be emptied.
-  return &feld != txtWatt && (feld.text().isEmpty() || ergebnisGezeigt_);
-}
-
-void frmLstg::Melden(const Hinweis& hinweis, Anlass anlass) {
-  const auto zeigen = [this, hinweis] { Zeigen(plattform_.boxen, werte_, hinweis); };
-  if (anlass == Anlass::Taste) {
-    zeigen();
-  } else {
-    // A box opened while the focus is moving would take it from the field that is just getting it.
-    QMetaObject::invokeMethod(this, zeigen, Qt::QueuedConnection);
-  }
 }
 
 }  // namespace vesk

@@ -1,157 +1,117 @@
 #include <gtest/gtest.h>
 
-#include <QDialog>
-#include <QDir>
-#include <QFile>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTextBrowser>
-#include <QTreeWidget>
-#include <QWindow>
+#include <QtWidgets>
 
-#include "Druckskript.h"
-#include "Feldhilfe.h"
-#include "Finden.h"
-#include "Hilfesystem.h"
-#include "Hilfetaste.h"
-#include "Rechenwerte.h"
-#include "Skript.h"
-#include "frmHilfe.h"
+#include "tests/platform/Skript.h"
+#include "tests/ui/Finden.h"
+#include "ui/info/Hilfesystem.h"
+#include "ui/info/frmHilfe.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vesk {
 namespace {
 
-class HilfesystemTest : public testing::Test {
- protected:
-  QString Seite() const {
-    return Finden<QTextBrowser>(*hilfe.Fenster(), u"anzSeite"_s).source().path().mid(1);
+struct HilfesystemTest : testing::Test {
+  void Handbuch() {
+    hilfe.Aufrufen(u"Vesk32.HLP"_s, Hilfebefehl::Inhalt, 0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(hilfe.Fenster()));
+  }
+  QTextBrowser& Anzeige() { return Finden<QTextBrowser>(*hilfe.Fenster(), u"anzSeite"_s); }
+  std::string Seite() { return Anzeige().source().path().mid(1).toStdString(); }
+  void Taste(Qt::Key taste, Qt::KeyboardModifiers zusatz = {}) {
+    QTest::keyClick(hilfe.Fenster()->focusWidget(), taste, zusatz);
   }
 
   skript::Boxen boxen;
-  Rechenwerte werte;
   skript::Drucker drucker;
-  Hilfesystem hilfe{QStringLiteral(VESK_DATEN "/hilfe"), boxen, werte, drucker};
+  Hilfesystem hilfe{QStringLiteral(VESK_DATEN "/hilfe"), boxen, drucker};
 };
 
-TEST_F(HilfesystemTest, Befehle) {
-  EXPECT_EQ(hilfe.Fenster(), nullptr);
-  hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Beenden, 0);
-  EXPECT_EQ(hilfe.Fenster(), nullptr);
-
-  hilfe.Aufrufen(u"Vesk32.HLP"_s, Hilfebefehl::Inhalt, 1030);
-  ASSERT_NE(hilfe.Fenster(), nullptr);
-  EXPECT_TRUE(hilfe.Fenster()->isVisible());
-  EXPECT_EQ(Seite(), u"start.html");
-  hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::HilfeBenutzen, 0);
-  EXPECT_EQ(Seite(), u"hilfe-benutzen.html");
-  for (const int nummer : {1001, 2119, 4001}) {
-    hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, nummer);
-    EXPECT_EQ(Seite(), u"kontext-%1.html"_s.arg(nummer));
+TEST_F(HilfesystemTest, BlaetternMitDerTastatur) {
+  Handbuch();
+  EXPECT_EQ(Seite(), "start.html");
+  Taste(Qt::Key_Tab);  // first link of the page
+  Taste(Qt::Key_Return);
+  EXPECT_EQ(Seite(), "zweck.html");
+  auto& baum = Finden<QTreeWidget>(*hilfe.Fenster(), u"treInhalt"_s);
+  EXPECT_EQ(baum.currentItem(), baum.topLevelItem(1));
+  const std::tuple<Qt::Key, Qt::KeyboardModifiers, const char*> wege[] = {
+      {Qt::Key_Left, Qt::AltModifier, "start.html"},
+      {Qt::Key_Right, Qt::AltModifier, "zweck.html"},
+      {Qt::Key_F1, Qt::NoModifier, "hilfe-benutzen.html"}};
+  for (const auto& [taste, zusatz, seite] : wege) {
+    Taste(taste, zusatz);
+    EXPECT_EQ(Seite(), seite);
   }
-  hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Beenden, 0);
+  Taste(Qt::Key_P, Qt::ControlModifier);
+  ASSERT_EQ(drucker.titelliste, QStringList(hilfe.Fenster()->windowTitle()));
+  EXPECT_EQ(drucker.texte[0], Anzeige().toPlainText());
+
+  baum.setFocus();
+  baum.setCurrentItem(baum.topLevelItem(2));
+  EXPECT_EQ(Seite(), "hilfe-benutzen.html");  // only Enter opens
+  Taste(Qt::Key_Return);
+  EXPECT_EQ(Seite(), "erste-schritte.html");
+  Taste(Qt::Key_Escape);
   EXPECT_FALSE(hilfe.Fenster()->isVisible());
-  hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 1002);
+}
+
+TEST_F(HilfesystemTest, SuchenUndFundstellen) {
+  Handbuch();
+  auto& funde = Finden<QListWidget>(*hilfe.Fenster(), u"lstFundstellen"_s);
+  const auto suchen = [this](const QString& begriff) {
+    Taste(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(hilfe.Fenster()->focusWidget(), begriff);
+    Taste(Qt::Key_Return);
+  };
+  suchen(u"Xylophon"_s);
+  ASSERT_EQ(funde.count(), 1);
+  EXPECT_EQ(funde.item(0)->text(), u"Nichts gefunden.");
+  suchen(u"Nahfeldgrenze"_s);
+  ASSERT_TRUE(funde.hasFocus());
+  ASSERT_GE(funde.count(), 2);
+  while (!funde.currentItem()->text().startsWith(u"Nahfeldsituation"_s)) Taste(Qt::Key_Down);
+  Taste(Qt::Key_Return);
+  EXPECT_EQ(Seite(), "nahfeld.html");
+  const auto stellen = Anzeige().extraSelections();
+  ASSERT_GE(stellen.size(), 2);
+  for (qsizetype i = 0; i <= stellen.size(); ++i) {
+    const QTextCursor& stelle = stellen[i % stellen.size()].cursor;
+    EXPECT_EQ(stelle.selectedText(), u"Nahfeldgrenze");
+    EXPECT_EQ(Anzeige().textCursor().position(), stelle.selectionStart());
+    Taste(Qt::Key_F3);
+  }
+  hilfe.Fenster()->Zeigen(u"kabel.html"_s);
+  EXPECT_TRUE(Anzeige().extraSelections().isEmpty());
+}
+
+TEST_F(HilfesystemTest, FehlendeSeiteWirdGemeldetUndDieAlteBleibt) {
+  Hilfesystem ohne(u"/fehlt"_s, boxen, drucker);
+  boxen.Erwarten("Vesk - Fehlermeldung", "Hilfedatei nicht gefunden: F1.HLP");
+  ohne.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 1001);
+  Handbuch();
+  boxen.Erwarten("Vesk - Fehlermeldung", "Hilfedatei nicht gefunden: fehlt.html");
+  hilfe.Fenster()->Zeigen(u"fehlt.html"_s);
+  EXPECT_EQ(Seite(), "start.html");
+}
+
+/// A modal window blocks all that do not belong to it.
+TEST_F(HilfesystemTest, NebenEinemModalenFensterBedienbar) {
+  Handbuch();
+  QDialog modal;
+  modal.setModal(true);
+  modal.show();
+  hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 4001);
+  EXPECT_EQ(Seite(), "kontext-4001.html");
+  auto& baum = Finden<QTreeWidget>(*hilfe.Fenster(), u"treInhalt"_s);
+  const QPoint stelle = baum.visualItemRect(baum.topLevelItem(1)).center();
+  QTest::mouseClick(hilfe.Fenster()->windowHandle(), Qt::LeftButton, {},
+                    baum.viewport()->mapTo(hilfe.Fenster(), stelle));
+  EXPECT_EQ(Seite(), "zweck.html");
+  modal.hide();
   EXPECT_TRUE(hilfe.Fenster()->isVisible());
-}
-
-TEST_F(HilfesystemTest, FehlendeDateiWirdGemeldet) {
-  const QTemporaryDir leer;
-  Hilfesystem ohne(leer.path(), boxen, werte, drucker);
-  boxen.Erwarten(u"Vesk - Fehlermeldung"_s, u"Hilfedatei nicht gefunden: F1.HLP"_s);
-  ohne.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 1001);
-  boxen.Erwarten(u"Vesk - Fehlermeldung"_s, u"Hilfedatei nicht gefunden: Vesk32.HLP"_s);
-  ohne.Aufrufen(u"Vesk32.HLP"_s, Hilfebefehl::Inhalt, 0);
-  EXPECT_EQ(ohne.Fenster(), nullptr);
-  EXPECT_EQ(werte.Antwort, 1);
-
-  // The contents are there but their pages are not, and the context file has no entries.
-  for (const auto& [name, text] :
-       {std::pair("inhalt.txt", "start.html\n"), std::pair("kontext.html", "<p>")}) {
-    QFile datei(leer.filePath(QString::fromUtf8(name)));
-    ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
-    datei.write(text);
-  }
-  boxen.Erwarten(u"Vesk - Fehlermeldung"_s, u"Hilfedatei nicht gefunden: start.html"_s);
-  ohne.Aufrufen(u"Vesk32.HLP"_s, Hilfebefehl::Inhalt, 0);
-  boxen.Erwarten(u"Vesk - Fehlermeldung"_s, u"Hilfedatei nicht gefunden: kontext-1001.html"_s);
-  ohne.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 1001);
-  boxen.AllesGezeigt();
-}
-
-TEST_F(HilfesystemTest, BeimModalenFensterGehoertDieHilfeZuIhm) {
-  hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 1001);
-  {
-    QDialog modal;
-    modal.setModal(true);
-    modal.show();
-    hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 4001);
-    EXPECT_EQ(hilfe.Fenster()->windowHandle()->transientParent(), modal.windowHandle());
-    EXPECT_TRUE(hilfe.Fenster()->isVisible());
-
-    // Through the native window, where a modal one would block the click.
-    auto& baum = Finden<QTreeWidget>(*hilfe.Fenster(), u"treInhalt"_s);
-    const QPoint stelle = baum.visualItemRect(baum.topLevelItem(1)).center();
-    QTest::mouseClick(hilfe.Fenster()->windowHandle(), Qt::LeftButton, {},
-                      baum.viewport()->mapTo(hilfe.Fenster(), stelle));
-    EXPECT_EQ(Seite(), u"zweck.html");
-    modal.hide();
-    EXPECT_TRUE(hilfe.Fenster()->isVisible());
-  }
-  hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Kontext, 1002);
-  EXPECT_EQ(hilfe.Fenster()->windowHandle()->transientParent(), nullptr);
-}
-
-TEST(Hilfetaste, F1FindetDieNaechsteNummer) {
-  skript::Hilfeaufrufe hilfe;
-  Hilfetaste taste(hilfe);
-  QCoreApplication::instance()->installEventFilter(&taste);
-  QMainWindow fenster;
-  fenster.setObjectName(u"frmOptions"_s);
-  auto* rahmen = new QWidget(&fenster);
-  auto* mit = new QLineEdit(rahmen);
-  auto* ohne = new QLineEdit(rahmen);
-  auto* fremd = new QLineEdit(&fenster);
-  mit->setProperty(HilfekontextEigenschaft, 2108);
-  rahmen->setProperty(HilfekontextEigenschaft, 2119);
-
-  const std::pair<QWidget*, int> faelle[] = {{mit, 2108}, {ohne, 2119}, {fremd, 2100}, {&fenster, 2100}};
-  for (const auto& [control, nummer] : faelle) {
-    hilfe.aufrufe.clear();
-    QTest::keyClick(control, Qt::Key_F1);
-    ASSERT_EQ(hilfe.aufrufe.size(), 1U);
-    EXPECT_EQ(hilfe.aufrufe[0].datei, u"F1.HLP");
-    EXPECT_EQ(hilfe.aufrufe[0].befehl, Hilfebefehl::Kontext);
-    EXPECT_EQ(hilfe.aufrufe[0].kontext, nummer);
-  }
-
-  hilfe.aufrufe.clear();
-  fenster.setObjectName(u"frmSonst"_s);
-  QTest::keyClick(fremd, Qt::Key_F1);
-  QTest::keyClick(mit, Qt::Key_F2);
-  EXPECT_TRUE(hilfe.aufrufe.empty());
-}
-
-TEST(Hilfetaste, F1ImMenueOeffnetDasHandbuch) {
-  skript::Hilfeaufrufe hilfe;
-  Hilfetaste taste(hilfe);
-  QCoreApplication::instance()->installEventFilter(&taste);
-  QMainWindow fenster;
-  QMenu* menue = fenster.menuBar()->addMenu(u"&Datei"_s);
-  menue->addAction(u"&Beenden"_s);
-  fenster.show();
-  menue->popup(fenster.pos());
-  ASSERT_TRUE(menue->isVisible());
-  QTest::keyClick(menue, Qt::Key_F1);
-  EXPECT_FALSE(menue->isVisible());
-  ASSERT_EQ(hilfe.aufrufe.size(), 1U);
-  EXPECT_EQ(hilfe.aufrufe[0].datei, u"Vesk32.HLP");
-  EXPECT_EQ(hilfe.aufrufe[0].befehl, Hilfebefehl::Inhalt);
 }
 
 }  // namespace

@@ -2,14 +2,13 @@
 
 #include <QDir>
 #include <QFile>
-#include <QMap>
 #include <QRegularExpression>
+#include <map>
 
-#include "Ausgabe.h"
-#include "Kabelkatalog.h"
-#include "Leistungsumrechnung.h"
-#include "Rechenwerte.h"
-#include "Zahlen.h"
+#include "engine/Ausgabe.h"
+#include "engine/Zahlen.h"
+#include "persistence/Kabeldatei.h"
+#include "station/Leistungsumrechnung.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,102 +17,80 @@ using namespace Qt::StringLiterals;
 namespace vesk {
 namespace {
 
-using Fall = QMap<QString, std::string>;
+using Werte = std::map<std::string, std::string>;
 
-Fall FallLesen(const QString& text) {
-  Fall fall;
-  for (const QString& paar : text.split(u' ', Qt::SkipEmptyParts)) {
-    fall[paar.section(u'=', 0, 0)] = paar.section(u'=', 1).toStdString();
-  }
-  return fall;
+std::int16_t Typ(Werte& fall) {
+  return fall["typ"] == "GSM" ? GrenzwertGSM : fall["typ"] == "TV" ? GrenzwertTV : GrenzwertAM;
 }
 
-std::int16_t Typ(const Fall& fall) {
-  const std::string typ = fall.value(u"typ"_s, "AM");
-  if (typ == "AM") return GrenzwertAM;
-  return typ == "TV" ? GrenzwertTV : GrenzwertGSM;
-}
-
-void FaktorenSetzen(const Fall& fall, Rechenwerte& werte) {
-  werte.Modulationsfaktor = Zahl(fall.value(u"faktor"_s, fall.value(u"sendeart"_s, "1.00")));
-  werte.Zyklusfaktor = static_cast<float>(1.0 / 6 * static_cast<double>(Zahl(fall.value(u"minuten"_s, "6"))));
-}
-
-/// A field of the main window (or txtWEIRP_0) after a calculation.
-std::string Feldwert(const Fall& fall) {
+/// Fields of the main window after a calculation, and the factor.
+Werte Rechnung(Werte& fall) {
+  const bool abstand = !fall.contains("abstand");
   Rechenwerte werte;
-  werte.QRGText = fall[u"qrg"_s];
-  werte.PWRText = fall.value(u"pwr"_s, fall.value(u"abstand"_s));
-  werte.GewinnText = fall.value(u"gewinn"_s);
-  werte.DaempfungText = fall.value(u"daempfung"_s);
-  werte.WinkelDaempfungText = fall.value(u"winkel"_s);
+  werte.QRGText = fall["qrg"];
+  werte.PWRText = fall[abstand ? "pwr" : "abstand"];
+  werte.GewinnText = fall["gewinn"];
+  werte.DaempfungText = fall["daempfung"];
+  werte.WinkelDaempfungText = fall["winkel"];
   werte.Grenzwerttyp = Typ(fall);
-  FaktorenSetzen(fall, werte);
-  Rechenart art;
-  art.modus = fall.contains(u"abstand"_s) ? Modus::Leistung : Modus::Abstand;
-  art.afu = !fall.contains(u"exakt"_s);
+  const std::string faktor = fall["faktor"] + fall["sendeart"];
+  if (!faktor.empty()) werte.Modulationsfaktor = Zahl(faktor);
+  if (fall.contains("minuten")) werte.Zyklusfaktor = Zahl(fall["minuten"]) / 6;
+  const Rechenart art{abstand ? Modus::Abstand : Modus::Leistung, !fall.contains("exakt")};
   const Feldtexte texte = Ausgabetexte(Berechnen(werte, art), '.');
+  Werte felder = {{"faktor", Formatieren(Faktor(werte))}};
   for (std::size_t i = 0; i < AnzahlFelder; ++i) {
-    if (Feldnamen[i] == fall[u"feld"_s]) return texte[static_cast<Feld>(i)].value_or("(nicht geschrieben)");
+    felder[std::string(Feldnamen[i])] = texte[static_cast<Feld>(i)].value_or("(nicht geschrieben)");
   }
-  return "(unbekanntes Feld)";
+  return felder;
 }
 
-std::string Bandwert(const Fall& fall) {
+Werte Band(const std::string& name) {
+  const auto text = [](float mhz) { return QString::number(double(mhz), 'g', 6).toStdString(); };
   for (const Amateurband& band : Amateurbaender()) {
-    if (QString::fromUtf8(band.name).remove(u' ').toStdString() != fall[u"band"_s]) continue;
-    const QMap<QString, float> felder = {{u"von"_s, band.von},
-                                         {u"bis"_s, band.bis},
-                                         {u"grenzwert"_s, band.auswertung.grenzwert},
-                                         {u"hsm"_s, band.auswertung.hsm},
-                                         {u"lambda"_s, band.auswertung.lambda}};
-    const float wert = felder.value(QString::fromStdString(fall[u"feld"_s]));
-    return QString::number(static_cast<double>(wert), 'g', 6).toStdString();
+    if (QString::fromUtf8(band.name).remove(u' ').toStdString() != name) continue;
+    const Auswertefrequenzen& bei = band.auswertung;
+    return {{"von", text(band.von)},
+            {"bis", text(band.bis)},
+            {"grenzwert", text(bei.grenzwert)},
+            {"hsm", text(bei.hsm)},
+            {"lambda", text(bei.lambda)}};
   }
-  return "(unbekanntes Band)";
+  return {};
 }
 
-std::string Kabelwert(const Fall& fall) {
-  Kabelfelder felder;
-  felder.QRG = fall[u"mhz"_s];
-  felder.KabelLaenge = fall[u"laenge"_s];
-  felder.Stecker = fall[u"stecker"_s];
-  bool gefunden = false;
-  KabeldaempfungRechnen(KabelOhneDatei(), 0, felder, gefunden);
-  const QMap<QString, std::string> werte = {{u"txtD100"_s, felder.D100},
-                                            {u"txtKabeldaempfung"_s, felder.Kabeldaempfung},
-                                            {u"txtGesamtdaempfung"_s, felder.Gesamtdaempfung}};
-  return werte.value(QString::fromStdString(fall[u"feld"_s]));
+Werte Kabelverluste(Werte& fall) {
+  Kabelfelder felder{.QRG = fall["mhz"], .KabelLaenge = fall["laenge"], .Stecker = fall["stecker"]};
+  KabeldaempfungRechnen(KabelOhneDatei(), 0, felder);
+  return {{"txtD100", felder.D100},
+          {"txtKabeldaempfung", felder.Kabeldaempfung},
+          {"txtGesamtdaempfung", felder.Gesamtdaempfung}};
 }
 
-std::string Pegelwert(Leistungseinheit quelle, const std::string& text, const std::string& feld) {
-  const QMap<QString, std::size_t> einheiten = {{u"dbm"_s, 0}, {u"dbw"_s, 1}, {u"watt"_s, 2}};
-  return Umrechnen(quelle, text, '.').texte.at(einheiten.value(QString::fromStdString(feld)));
+/// Interference threshold or peak field strength of a pacemaker, by the key.
+Werte Schwelle(Werte& fall) {
+  const float mhz = Zahl(fall["uss306"] + fall["spitze306"] + fall["ussvde"] + fall["spitzevde"]);
+  const HSMvdeWerte vde = HSMvde(mhz, Typ(fall));
+  float wert = static_cast<float>(vde.Kandidaten[0]) / 100000;
+  if (!fall["uss306"].empty()) wert = HSM306(mhz).Uss;
+  if (!fall["spitze306"].empty()) wert = HSM306(mhz).Spitzenfeld;
+  if (!fall["ussvde"].empty()) wert = vde.Uss;
+  return {{"", Formatieren(wert, 3, '.')}};
 }
 
-/// Interference thresholds and their peak field strengths, with three decimals.
-std::string Schwelle(float wert) {
-  return Formatieren(wert, 3, '.');
-}
-
-std::string Wert(const Fall& fall) {
-  if (fall.contains(u"band"_s)) return Bandwert(fall);
-  if (fall.contains(u"kabel"_s)) return Kabelwert(fall);
-  if (fall.contains(u"qrg"_s)) return Feldwert(fall);
-  if (fall.contains(u"uss306"_s)) return Schwelle(HSM306(Zahl(fall[u"uss306"_s])).Uss);
-  if (fall.contains(u"spitze306"_s)) return Schwelle(HSM306(Zahl(fall[u"spitze306"_s])).Spitzenfeld);
-  if (fall.contains(u"ussvde"_s)) return Schwelle(HSMvde(Zahl(fall[u"ussvde"_s]), Typ(fall)).Uss);
-  if (fall.contains(u"spitzevde"_s)) {
-    const auto kleinster = HSMvde(Zahl(fall[u"spitzevde"_s]), Typ(fall)).Kandidaten[0];
-    return Schwelle(static_cast<float>(kleinster) / 100000);
+/// What the program comes to, by the names that a case may give as its "feld".
+Werte Ergebnisse(Werte fall) {
+  if (fall.contains("qrg") || fall.contains("minuten")) return Rechnung(fall);
+  if (fall.contains("band")) return Band(fall["band"]);
+  if (fall.contains("kabel")) return Kabelverluste(fall);
+  if (fall.contains("art")) return {{"", std::string(Sendearten.at(std::stoul(fall["art"])).faktor)}};
+  const std::string einheiten[] = {"dbm", "dbw", "watt"};
+  for (std::size_t i = 0; i < std::size(einheiten); ++i) {
+    if (!fall.contains(einheiten[i])) continue;
+    const auto texte = Umrechnen(Leistungseinheit{i}, fall[einheiten[i]], '.').texte;
+    return {{"dbm", texte[0]}, {"dbw", texte[1]}, {"watt", texte[2]}};
   }
-  if (fall.contains(u"art"_s)) return std::string(Sendearten.at(std::stoul(fall[u"art"_s])).faktor);
-  if (fall.contains(u"watt"_s)) return Pegelwert(Leistungseinheit::Watt, fall[u"watt"_s], fall[u"feld"_s]);
-  if (fall.contains(u"dbw"_s)) return Pegelwert(Leistungseinheit::DBW, fall[u"dbw"_s], fall[u"feld"_s]);
-  if (fall.contains(u"dbm"_s)) return Pegelwert(Leistungseinheit::DBm, fall[u"dbm"_s], fall[u"feld"_s]);
-  Rechenwerte werte;
-  FaktorenSetzen(fall, werte);
-  return Formatieren(Faktor(werte));
+  return Schwelle(fall);
 }
 
 TEST(Hilfewerte, AlleZahlenStimmenMitDemProgramm) {
@@ -127,7 +104,12 @@ TEST(Hilfewerte, AlleZahlenStimmenMitDemProgramm) {
     EXPECT_EQ(html.count(u"class=\"wert\""_s), html.count(muster)) << name.toStdString();
     for (auto treffer = muster.globalMatch(html); treffer.hasNext(); ++anzahl) {
       const QRegularExpressionMatch fund = treffer.next();
-      EXPECT_EQ(fund.captured(2).toStdString(), Wert(FallLesen(fund.captured(1))))
+      Werte fall;
+      for (const QString& paar : fund.captured(1).split(u' ')) {
+        fall[paar.section(u'=', 0, 0).toStdString()] = paar.section(u'=', 1).toStdString();
+      }
+      const std::string feld = fall["feld"];
+      EXPECT_EQ(fund.captured(2).toStdString(), Ergebnisse(std::move(fall))[feld])
           << name.toStdString() << ": " << fund.captured(1).toStdString();
     }
   }

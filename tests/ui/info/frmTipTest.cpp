@@ -1,15 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
-#include <QFile>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QtWidgets>
 
-#include "Finden.h"
-#include "Skript.h"
-#include "frmTip.h"
+#include "station/Station.h"
+#include "tests/platform/Skript.h"
+#include "tests/ui/Finden.h"
+#include "ui/info/frmInfo.h"
+#include "ui/info/frmTip.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,81 +15,57 @@ namespace vesk {
 namespace {
 
 const QPair<QString, QString> BeimStart = {u"Options"_s, u"Show Tips at Startup"_s};
+const QPair<QString, QString> Naechster = {u"Options"_s, u"Next Tip"_s};
 
-class FrmTip : public testing::Test {
- protected:
-  QString Datei(const QByteArray& inhalt) {
-    QString pfad = verzeichnis.filePath(u"TIPOFDAY.TXT"_s);
-    QFile datei(pfad);
-    EXPECT_TRUE(datei.open(QIODevice::WriteOnly));
-    datei.write(inhalt);
-    return pfad;
-  }
-  static QString Tip(frmTip& fenster) {
-    fenster.show();
-    return Finden<QPlainTextEdit>(fenster, u"txtTip"_s).toPlainText();
-  }
+QString Tip(frmTip& fenster) {
+  fenster.show();
+  return Finden<QPlainTextEdit>(fenster, u"txtTip"_s).toPlainText();
+}
 
-  QTemporaryDir verzeichnis;
+TEST(FrmTip, NaechsterTipGehtReihumUndWeiterBeimNaechstenMal) {
   skript::Speicher speicher;
-};
-
-TEST_F(FrmTip, NaechsterTipGehtReihum) {
-  const QString pfad = Datei("eins\r\n\r\n<b>zw\xF6lf</b>\r\ndrei\r\n");
-  {
-    frmTip fenster(speicher, pfad);
-    fenster.show();
-    auto& naechster = Finden<QPushButton>(fenster, u"cmdNaechsterTip"_s);
-    EXPECT_EQ(Tip(fenster), u"eins");
-    QTest::keyClick(&naechster, Qt::Key_Space);
-    EXPECT_EQ(Tip(fenster), u"<b>zwölf</b>");
-    QTest::mouseClick(&naechster, Qt::LeftButton);
-    EXPECT_EQ(Tip(fenster), u"drei");
-    QTest::mouseClick(&naechster, Qt::LeftButton);
-    EXPECT_EQ(Tip(fenster), u"eins");
-    QTest::keyClick(&fenster, Qt::Key_Return);  // OK
-    EXPECT_FALSE(fenster.isVisible());
-    EXPECT_EQ(Tip(fenster), u"<b>zwölf</b>");  // opened again
+  frmTip fenster(speicher, {"eins", "<b>zwölf</b>", "drei"});
+  EXPECT_EQ(Tip(fenster), u"eins");
+  for (const QString& tip : {u"<b>zwölf</b>"_s, u"drei"_s, u"eins"_s}) {
+    QTest::mouseClick(&Finden<QPushButton>(fenster, u"cmdNaechsterTip"_s), Qt::LeftButton);
+    EXPECT_EQ(Tip(fenster), tip);
   }
-  frmTip neuerStart(speicher, pfad);
+  QTest::keyClick(&fenster, Qt::Key_Return);  // OK
+  EXPECT_FALSE(fenster.isVisible());
+  EXPECT_EQ(Tip(fenster), u"<b>zwölf</b>");
+  frmTip neuerStart(speicher, {"eins", "zwei", "drei"});
   EXPECT_EQ(Tip(neuerStart), u"drei");
-  frmTip nurEiner(speicher, Datei("nur einer\n"));
-  EXPECT_EQ(Tip(nurEiner), u"nur einer");
 }
 
-TEST_F(FrmTip, KaestchenStehtImSpeicher) {
-  const QString pfad = Datei("eins\n");
-  {
-    frmTip fenster(speicher, pfad);
-    auto& kaestchen = Finden<QCheckBox>(fenster, u"chkTipsBeimStart"_s);
-    EXPECT_TRUE(kaestchen.isChecked());  // before any choice
-    EXPECT_FALSE(speicher.werte.contains(BeimStart));
-    QTest::keyClick(&kaestchen, Qt::Key_Space);
-    EXPECT_EQ(speicher.werte[BeimStart], u"0");
-  }
-  frmTip fenster(speicher, pfad);
-  auto& kaestchen = Finden<QCheckBox>(fenster, u"chkTipsBeimStart"_s);
-  EXPECT_FALSE(kaestchen.isChecked());
-  QTest::keyClick(&kaestchen, Qt::Key_Space);
-  EXPECT_EQ(speicher.werte[BeimStart], u"1");
-}
-
-TEST_F(FrmTip, OhneTips) {
-  for (const QString& pfad : {verzeichnis.filePath(u"fehlt"_s), verzeichnis.path(), Datei("\r\n \r\n")}) {
-    frmTip fenster(speicher, pfad);
+TEST(FrmTip, KaestchenStehtImSpeicherUndUnsinnSchadetNicht) {
+  skript::Speicher speicher;
+  for (const QString& wert : {u"0"_s, u"1"_s}) {
+    frmTip fenster(speicher, {});
     EXPECT_EQ(Tip(fenster), u"Keine Tips gefunden.");
-    EXPECT_FALSE(Finden<QPushButton>(fenster, u"cmdNaechsterTip"_s).isEnabled());
+    auto& kaestchen = Finden<QCheckBox>(fenster, u"chkTipsBeimStart"_s);
+    EXPECT_EQ(kaestchen.isChecked(), speicher.werte.value(BeimStart, u"1"_s) == u"1");
+    QTest::keyClick(&kaestchen, Qt::Key_Space);
+    EXPECT_EQ(speicher.werte[BeimStart], wert);
+  }
+  for (const QString& wert : {u"-1"_s, u"99999999999999999999"_s, u"abc"_s, u"7"_s}) {
+    speicher.werte = {{Naechster, wert}, {BeimStart, wert}};
+    frmTip fenster(speicher, {"eins", "zwei"});
+    EXPECT_FALSE(Tip(fenster).isEmpty());
   }
 }
 
-TEST_F(FrmTip, UnsinnImSpeicher) {
-  for (const QString& wert : {u"-1"_s, u"99999999999999999999"_s, u"abc"_s, u"7"_s}) {
-    speicher.werte[{u"Options"_s, u"Next Tip"_s}] = wert;
-    speicher.werte[BeimStart] = wert;
-    frmTip fenster(speicher, Datei("eins\nzwei\n"));
-    EXPECT_FALSE(Tip(fenster).isEmpty());
-    EXPECT_FALSE(Finden<QCheckBox>(fenster, u"chkTipsBeimStart"_s).isChecked());
-  }
+TEST(FrmInfo, NenntVersionenUndDateiUndKopiert) {
+  frmInfo fenster;
+  Station station;
+  station.Arbeitsverzeichnis = "/daten/öl";
+  station.UserDatei = "DL1ABC.dat";
+  fenster.Zeigen(station);
+  EXPECT_TRUE(Finden<QLabel>(fenster, u"lblDatei"_s).text().endsWith(u"/daten/öl/DL1ABC.dat"_s));
+  EXPECT_EQ(Finden<QLabel>(fenster, u"lblName"_s).text(), u"Vesk Version 2.5.1");
+  const QString angaben = Finden<QPlainTextEdit>(fenster, u"txtSystem"_s).toPlainText();
+  EXPECT_TRUE(angaben.contains(u"Vesk Version 2.5.1\nQt "_s + QString::fromLatin1(qVersion())));
+  QTest::keyClick(&Finden<QPushButton>(fenster, u"cmdKopieren"_s), Qt::Key_Space);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), angaben);
 }
 
 }  // namespace

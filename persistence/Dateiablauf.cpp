@@ -1,0 +1,277 @@
+#include "persistence/Dateiablauf.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "engine/Version.h"
+#include "station/Datenblatt.h"
+#include "station/Operator.h"
+#include "station/Rechnung.h"
+#include "station/Spalten.h"
+#include "station/Text.h"
+
+namespace vesk {
+
+namespace fs = std::filesystem;
+
+Dateiablauf::Dateiablauf(Station& station, const Kataloge& kataloge, Rueckfragen& rueckfragen)
+    : station_(station), kataloge_(kataloge), rueckfragen_(rueckfragen) {}
+
+fs::path Dateiablauf::Pfad() const {
+  return fs::path(station_.Arbeitsverzeichnis) / station_.UserDatei;
+}
+
+void Dateiablauf::DateiWechseln(const fs::path& pfad) {
+  station_.UserDatei = pfad.filename().string();
+  station_.Arbeitsverzeichnis = station_.UserVerzeichnis = pfad.parent_path().string();
+}
+
+Dateiwahl Dateiablauf::Wahl(const std::string& titel, const std::string& vorschlag) const {
+  return {titel, "User Dateien (*.dat)", "dat", station_.Arbeitsverzeichnis, vorschlag};
+}
+
+Dateiablauf::Blatt Dateiablauf::BlattJetzt() const {
+  Blatt blatt{station_.Zellen, station_.Datenblattspalten};
+  blatt.spalten[0] = {};  // the working record is in no file
+  return blatt;
+}
+
+// ------------------------------------------------------------------------------------------- the start
+
+void Dateiablauf::InitLaden() {
+  const Vorgang vorgang(*this);
+  if (!vorgang) return;
+  DateiWechseln(fs::path(station_.ProgrammVerzeichnis) / station_.UserDatei);
+  Einlesen(false);
+}
+
+void Dateiablauf::RettungAnbieten() {
+  const Vorgang vorgang(*this);
+  if (!vorgang) return;
+  for (const Rettung::Fund& fund : Rettung::Suchen(station_.ProgrammVerzeichnis)) {
+    const std::string von =
+        fund.datei.empty() ? "für ein neues Rufzeichen" : "an " + fund.datei.filename().string();
+    const Hinweis frage{std::string(Produktname),
+                        "Das Programm wurde nicht ordentlich beendet. Es gibt ungesicherte Änderungen " +
+                            von + ".\nSollen sie zurückgeholt werden?",
+                        Knoepfe::JaNein, Symbol::Frage, Antwort::Ja};
+    if (rueckfragen_.Fragen(frage) == Antwort::Ja) {
+      Zurueckholen(fund);
+      return;
+    }
+    std::error_code egal;
+    fs::remove(fund.pfad, egal);
+  }
+}
+
+void Dateiablauf::Zurueckholen(const Rettung::Fund& fund) {
+  if (!fund.datei.empty() && fund.datei != Pfad()) {
+    DateiWechseln(fund.datei);
+    Leeren();
+    Einlesen(false);
+  }
+  Leeren();
+  BytesLesen(fund.bytes);
+  station_.neuesRufzeichen = fund.datei.empty();
+  station_.UserGeaendert = true;
+  station_.titelGesetzt = true;
+  rettung_.Fortsetzen(fund);
+}
+
+// ---------------------------------------------------------------------------------------------- reading
+
+/// Another file's data come: nothing is left that belongs to the former ones.
+void Dateiablauf::Leeren() {
+  SpalteVerlassen(station_);
+  BenutzerLeeren(station_);
+  station_.benutzermarken = {};
+  station_.Zellen = {};
+  station_.rot.reset();
+  station_.spaltenfarben = {};
+  std::fill(station_.Datenblattspalten.begin() + 1, station_.Datenblattspalten.end(), LeereSpalte());
+  station_.Fusszeile.clear();
+}
+
+/// Reads the current file. A chosen one comes into the present format at once.
+void Dateiablauf::Einlesen(bool gewaehlt) {
+  station_.neuesRufzeichen = false;
+  station_.UserGeaendert = false;
+  const Gelesen datei = stand_.Lesen(Pfad());
+  if (datei.status == Lesestatus::Gelesen) {
+    Auswerten(datei, gewaehlt);
+  } else {
+    NichtGelesen(datei);
+  }
+  gespeichert_ = BlattJetzt();
+  rettung_.Gesichert(UserDateiSchreiben(station_));
+}
+
+void Dateiablauf::Auswerten(const Gelesen& datei, bool gewaehlt) {
+  const Lesebericht bericht = BytesLesen(datei.bytes);
+  alteFassungNoetig_ = !bericht.verlustfrei || bericht.abgebrochen || datei.abgeschnitten;
+  if (bericht.User) station_.titelGesetzt = true;
+  AnderswoMelden();
+  if (gewaehlt && bericht.abgebrochen) {
+    Sagen("Die Datei " + station_.UserDatei +
+          " ist unvollständig: Sie endet zu früh.\nWas fehlt, bleibt leer. " + "Die Datei bleibt als " +
+          FreierAltname(Pfad()).filename().string() + " erhalten.");
+  }
+  Umwandeln(bericht);
+  if (gewaehlt) station_.UserGeaendert = true;
+  Sichern();
+}
+
+Lesebericht Dateiablauf::BytesLesen(std::string_view bytes) {
+  Lesebericht bericht = UserDateiLesen(bytes, station_);
+  station_.benutzer.Klasse = Grossbuchstaben(station_.benutzer.Klasse);
+  station_.modustipsVomSchalter = station_.afutipVomSchalter = false;
+  station_.klasseEntschieden = station_.benutzer.Rufzeichen;
+  return bericht;
+}
+
+void Dateiablauf::NichtGelesen(const Gelesen& datei) {
+  alteFassungNoetig_ = false;
+  station_.titelGesetzt = true;
+  if (datei.status == Lesestatus::Fehlt) {
+    UserDateiVorgaben(station_);
+    station_.UserGeaendert = true;
+  } else {
+    Fehler("Die Datei " + station_.UserDatei + " konnte nicht gelesen werden.", datei.grund);
+  }
+}
+
+void Dateiablauf::Umwandeln(const Lesebericht& bericht) {
+  if (bericht.version != Dateiversion::ZuAlt && bericht.version != Dateiversion::Umwandelbar) return;
+  Sagen(Migrationsmeldung(bericht, station_.UserDatei));
+  const bool kopiert = !DateiKopieren(Pfad(), fs::path(station_.Arbeitsverzeichnis) / "User.bak");
+  if (kopiert && !bericht.abgebrochen) alteFassungNoetig_ = false;
+  station_.UserGeaendert = true;
+}
+
+void Dateiablauf::AnderswoMelden() {
+  if (!stand_.AnderswoOffen()) {
+    anderswoGemeldet_.clear();
+  } else if (anderswoGemeldet_ != Pfad()) {
+    anderswoGemeldet_ = Pfad();
+    Sagen("Die Datei " + station_.UserDatei +
+          " ist bereits in einem anderen Vesk geöffnet.\nWas dort geändert und gespeichert wird, erscheint "
+          "hier "
+          "nicht; es wird aber nicht ungefragt überschrieben.");
+  }
+}
+
+/// Otherwise says why not, and what follows from it. `ganz`: one that ends too early is not.
+bool Dateiablauf::Brauchbar(const fs::path& pfad, const std::string& folge, bool ganz) {
+  const std::string name = "Die Datei " + pfad.filename().string();
+  const Gelesen datei = DateiLesen(pfad);
+  if (datei.status == Lesestatus::Fehlt) return Fehler(name + " gibt es nicht.", folge);
+  if (datei.status == Lesestatus::Fehler) {
+    return Fehler(name + " konnte nicht gelesen werden.", datei.grund + "\n" + folge);
+  }
+  Station probe;
+  const Lesebericht bericht = UserDateiLesen(datei.bytes, probe);
+  if (bericht.bekannt && !(bericht.abgebrochen && ganz)) return true;
+  if (bericht.bekannt) return Fehler(name + " ist unvollständig: Sie endet zu früh.", folge);
+  return Fehler(name + (datei.bytes.empty() ? " ist leer." : " enthält keine Daten von Vesk."), folge);
+}
+
+// ------------------------------------------------------------------------------------------ other files
+
+void Dateiablauf::UserLaden() {
+  const Vorgang vorgang(*this);
+  if (!vorgang) return;
+  const auto gewaehlt = rueckfragen_.ZumOeffnen(Wahl("User Datei laden", {}));
+  if (!gewaehlt) return;
+  if (!Sichern() && !NichtsZuVerlieren() &&
+      !Frage(std::string(Produktname),
+             "Die Änderungen sind nicht gespeichert. Trotzdem eine andere Datei laden?")) {
+    return;
+  }
+  if (!InsProgrammverzeichnis(*gewaehlt)) return;
+  DateiWechseln(fs::path(station_.ProgrammVerzeichnis) / gewaehlt->filename());
+  // Left where it is, a file is missing here: the data stay and get its name.
+  if (DateiLesen(Pfad()).status != Lesestatus::Fehlt) Leeren();
+  Einlesen(true);
+}
+
+/// Files are always looked up in the program directory; one that lies elsewhere is offered to be brought
+/// there. False: it cannot be used, and the user was told.
+bool Dateiablauf::InsProgrammverzeichnis(const fs::path& gewaehlt) {
+  const std::string folge = "Es wird weiter mit " + station_.UserDatei + " gearbeitet.";
+  if (!Brauchbar(gewaehlt, folge)) return false;
+  std::error_code keineAntwort;
+  if (fs::equivalent(gewaehlt.parent_path(), station_.ProgrammVerzeichnis, keineAntwort)) return true;
+  const Hinweis frage{
+      "User Datei laden", "Die Datei liegt nicht im Programmverzeichnis. Soll sie dorthin kopiert werden?",
+      Knoepfe::JaNein,    Symbol::Frage,
+      Antwort::Ja,
+  };
+  const fs::path ziel = fs::path(station_.ProgrammVerzeichnis) / gewaehlt.filename();
+  const Gelesen dort = DateiLesen(ziel);
+  if (rueckfragen_.Fragen(frage) != Antwort::Ja) {
+    return dort.status == Lesestatus::Fehlt || Brauchbar(ziel, folge);
+  }
+  const bool dieselbe =
+      dort.status == Lesestatus::Gelesen && !dort.abgeschnitten && dort.bytes == DateiLesen(gewaehlt).bytes;
+  if (dieselbe) return true;
+  Fehlergrund grund;
+  if (dort.status != Lesestatus::Fehlt) grund = DateiKopieren(ziel, FreierAltname(ziel));
+  if (!grund) grund = DateiKopieren(gewaehlt, ziel);
+  if (!grund) return true;
+  return Fehler("Die Datei " + gewaehlt.filename().string() + " konnte nicht kopiert werden.", *grund);
+}
+
+void Dateiablauf::AenderungenVerwerfen() {
+  const Vorgang vorgang(*this);
+  if (!vorgang || !Brauchbar(Pfad(), "Alle Änderungen bleiben erhalten.", true)) return;
+  if (BlattJetzt() != gespeichert_ && !NichtsZuVerlieren() &&
+      !Frage(std::string(Produktname), "Auch das Datenblatt wurde geändert. Alle Änderungen verwerfen?")) {
+    return;
+  }
+  Leeren();
+  Einlesen(false);
+  station_.fenster.benutzer = false;
+}
+
+void Dateiablauf::UserNeu() {
+  const Vorgang vorgang(*this);
+  if (!vorgang) return;
+  const std::string erklaerung =
+      "Diese Funktion ist sinnvoll, um Datenblätter\nnacheinander für mehrere Rufzeichen anzulegen.\n"
+      "Aktuelle Userdaten und Datenblatt werden gesichert\nDanach werden die Daten nach Rückfrage gelöscht\n"
+      "Nach Ausfüllen des Benutzerdialogs werden die Daten\nUnter dem eingegebenen Rufzeichen gesichert.";
+  if (!Frage("Neues Datenblatt anlegen", erklaerung)) return;
+  if (!Sichern() && !NichtsZuVerlieren()) return;
+  if (!Frage(std::string(Produktname), "Datenblatt wirklich löschen?")) return;
+  station_.neuesRufzeichen = true;
+  station_.titelGesetzt = true;
+  BenutzerLeeren(station_);
+  station_.benutzermarken = {};
+  Sagen(DatenblattLeeren(station_, kataloge_));
+  station_.fenster.benutzer = true;
+}
+
+// -------------------------------------------------------------------------------------------------------
+
+void Dateiablauf::Sagen(const std::string& text) {
+  rueckfragen_.Fragen({"Hinweis", text});
+}
+
+void Dateiablauf::Sagen(const Meldungen& meldungen) {
+  for (const Meldung& meldung : meldungen) {
+    const Antwort antwort = rueckfragen_.Fragen(meldung.hinweis);
+    if (meldung.danach) Sagen(meldung.danach(station_, kataloge_, antwort));
+  }
+}
+
+/// Always false, so that a caller can return it.
+bool Dateiablauf::Fehler(const std::string& text, const std::string& grund) {
+  rueckfragen_.Fragen(Fehlermeldung(text + "\n" + grund));
+  return false;
+}
+
+bool Dateiablauf::Frage(const std::string& titel, const std::string& text) {
+  return rueckfragen_.Fragen(Bestaetigung(titel, text)) == Antwort::Ja;
+}
+
+}  // namespace vesk

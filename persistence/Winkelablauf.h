@@ -1,0 +1,14 @@
+#pragma once
+#include "persistence/Rueckfragen.h"
+#include "station/Station.h"
+
+/// The files of the angle page.
+namespace vesk {
+
+/// mnuWinkelLaden. Asks before a file takes the place of a table that the user has not saved.
+void WinkelOeffnen(Station& station, Rueckfragen& rueckfragen);
+/// Without a name it asks for one, and before it overwrites a file that does not hold this table.
+void WinkelSpeichern(Station& station, Rueckfragen& rueckfragen);
+void WinkelSpeichernUnter(Station& station, Rueckfragen& rueckfragen);
+
+}  // namespace vesk

@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include <QtWidgets>
+#include <functional>
+
+#include "platform/QtPlattform.h"
+
+namespace vesk {
+namespace {
+
+struct Taste {
+  QEvent::Type art;
+  int taste;
+  bool wiederholt = false;
+};
+using Tasten = std::vector<Taste>;
+constexpr auto Druck = QEvent::KeyPress;
+constexpr auto Los = QEvent::KeyRelease;
+
+void Senden(const Tasten& tasten) {
+  for (const Taste& taste : tasten) {
+    QWidget* box = QApplication::activeModalWidget();
+    if (box == nullptr) return;
+    QWidget* ziel = box->focusWidget() != nullptr ? box->focusWidget() : box;
+    const QString text = taste.taste == Qt::Key_Space ? QStringLiteral(" ") : QString();
+    QKeyEvent ereignis(taste.art, taste.taste, Qt::NoModifier, text, taste.wiederholt);
+    QApplication::sendEvent(ziel, &ereignis);
+    QCoreApplication::processEvents();
+  }
+}
+
+/// The answer to a box whose user first does `vorher`, which must answer nothing, and then presses `dann`.
+Antwort Antworten(Antwort vorgabe, const std::function<void()>& vorher, const Tasten& dann) {
+  QTimer::singleShot(0, qApp, [&] {
+    vorher();
+    QWidget* box = QApplication::activeModalWidget();
+    EXPECT_TRUE(box != nullptr && box->isVisible()) << "beantwortet, ehe jemand eine Taste drückte";
+    Senden(dann);
+  });
+  QTimer notbremse;
+  QObject::connect(&notbremse, &QTimer::timeout, qApp, [] {
+    ADD_FAILURE() << "eine neue Taste antwortet nicht";
+    // A question refuses to be closed: any button ends it.
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->done(0);
+  });
+  notbremse.start(5000);
+  const Knoepfe knoepfe = vorgabe == Antwort::OK ? Knoepfe::OK : Knoepfe::JaNein;
+  return QtMeldungsboxen().Zeigen({"Vesk", "Ein Text", knoepfe, Symbol::Frage, vorgabe});
+}
+
+TEST(Boxen, NurEineNeueTasteAntwortet) {
+  const Tasten gehalten = {{Druck, Qt::Key_Return, true}, {Druck, Qt::Key_Enter, true},
+                           {Druck, Qt::Key_Space, true},  {Los, Qt::Key_Return},
+                           {Los, Qt::Key_Space},          {Druck, Qt::Key_Escape, true}};
+  const Tasten enter = {{Druck, Qt::Key_Return}, {Los, Qt::Key_Return}};
+  const Tasten leertaste = {{Druck, Qt::Key_Space}, {Los, Qt::Key_Space}};
+  const Tasten escape = {{Druck, Qt::Key_Escape}, {Los, Qt::Key_Escape}};
+  const Tasten anderer = {
+      {Druck, Qt::Key_Tab}, {Los, Qt::Key_Tab}, {Druck, Qt::Key_Space}, {Los, Qt::Key_Space}};
+  using enum Antwort;
+  const std::tuple<Antwort, Tasten, Tasten, Antwort> faelle[] = {
+      // default (OK: no question), what answers nothing, what answers, the answer
+      {OK, gehalten, enter, OK},     {OK, gehalten, leertaste, OK}, {OK, gehalten, escape, OK},
+      {Ja, gehalten, enter, Ja},     {Nein, gehalten, enter, Nein}, {Nein, gehalten, leertaste, Nein},
+      {Nein, gehalten, anderer, Ja}, {Ja, escape, enter, Ja},
+  };
+  int nummer = 0;
+  for (const auto& [vorgabe, vorher, dann, antwort] : faelle) {
+    SCOPED_TRACE(nummer++);
+    EXPECT_EQ(Antworten(
+                  vorgabe, [&tasten = vorher] { Senden(tasten); }, dann),
+              antwort);
+  }
+}
+
+TEST(Boxen, RahmenSchliesstKeineFrage) {
+  const auto schliessen = [] { QApplication::activeModalWidget()->close(); };
+  EXPECT_EQ(Antworten(Antwort::Nein, schliessen, {{Druck, Qt::Key_Return}, {Los, Qt::Key_Return}}),
+            Antwort::Nein);
+}
+
+}  // namespace
+}  // namespace vesk

@@ -1,0 +1,47 @@
+#pragma once
+#include <functional>
+
+#include "station/Handlung.h"
+
+namespace vesk {
+
+/// What the user asks of the program beyond the station.
+enum class Befehl {
+  DateiLaden,
+  DateiSpeichern,
+  DateiSpeichernUnter,
+  AenderungenVerwerfen,
+  UserNeu,
+  BenutzerVerborgen,
+  Beenden,
+  OptionenZeigen,
+  DatenblattZeigen,
+  BenutzerZeigen,
+  LeistungsumrechnungZeigen,
+  TipZeigen,
+  InfoZeigen,
+  Handbuch,
+  HilfeBenutzen,
+  WinkelLaden,
+  WinkelSpeichern,
+  WinkelSpeichernUnter,
+};
+
+/// The loop as a window sees it: it tells what the user did and is shown the station afterwards.
+class Ablauf {
+ public:
+  virtual ~Ablauf() = default;
+  /// Changes the station, shows it in every window, then says what is to be said.
+  virtual void Tun(const Handlung& handlung) = 0;
+  /// The same for a field that is being left: nothing is said before the mouse has been let go.
+  virtual void TunBeimVerlassen(const Handlung& handlung) = 0;
+  virtual void Befehlen(Befehl befehl) = 0;
+};
+
+/// An action with its arguments: Mit(EingabeGetippt, feld, text).
+template <typename Tun, typename... Werte>
+Handlung Mit(Tun tun, Werte... werte) {
+  return [=](Station& s, const Kataloge& k) { return tun(s, k, werte...); };
+}
+
+}  // namespace vesk
