@@ -76,7 +76,6 @@ void Durchrechnen(Rechenwerte& werte, const Rechenart& art, Rechenergebnis& e) {
   e.begonnen = true;
   e.grenzwerte = GrenzwerteBestimmen(werte.QRG, art.afu, werte.Grenzwerttyp);
   FelderBestimmen(e.grenzwerte);
-  if (!art.ausgeben) return;
 
   station.Gewinn = ZahlOderNull(werte.GewinnText);
   station.Daempfung = ZahlOderNull(werte.DaempfungText);

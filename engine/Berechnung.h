@@ -16,8 +16,7 @@ enum class Modus {
 /// How a calculation is to be made.
 struct Rechenart {
   Modus modus = Modus::Abstand;
-  bool afu = true;       ///< least favourable frequency of the amateur band
-  bool ausgeben = true;  ///< false: only the limits are brought up to date
+  bool afu = true;  ///< least favourable frequency of the amateur band
 };
 
 /// The root of 30 in d = sqrt(30 * EIRP) / E (m, W, V/m), at the four digits that all figures rest on.

@@ -1,8 +1,10 @@
 #include "persistence/UserDatei.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <tuple>
 #include <utility>
 
 #include "../tests/persistence/Muster.h"
@@ -11,6 +13,17 @@ namespace {
 
 void Pruefen(bool gut) {
   if (!gut) std::abort();
+}
+
+/// Everything that the file holds.
+bool GleicherInhalt(const vesk::Station& a, const vesk::Station& b) {
+  const auto schalter = [](const vesk::Einstellungen& e) {
+    return std::tuple(e.ToolTips, e.AFu, e.Fenster, e.Meldungen);
+  };
+  return std::equal(a.Datenblattspalten.begin() + 1, a.Datenblattspalten.end(),
+                    b.Datenblattspalten.begin() + 1) &&
+         a.benutzer == b.benutzer && a.Zellen == b.Zellen && a.Fusszeile == b.Fusszeile &&
+         schalter(a.einstellungen) == schalter(b.einstellungen);
 }
 
 /// What was read once is written and read again without any further change.

@@ -95,7 +95,6 @@ Meldungen SpalteKopieren(Station& s, const Kataloge&) {
   const std::string frei = NaechsteFreieSpalte(s.Zellen);
   if (quelle == 0 || frei.empty()) return {};
   const int ziel = frei.front() - 'A' + 1;
-  if (ziel == quelle) return {};
   for (int zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
     ZelleSetzen(s, ziel, Zeile(zeile), Zelle(s, quelle, Zeile(zeile)));
   }

@@ -1,3 +1,4 @@
+#include "tests/Tabelle.h"
 #include "tests/app/Lauf.h"
 #include "ui/basis/Feldhilfe.h"
 #include "ui/info/Hilfebuch.h"
@@ -13,6 +14,8 @@ class HilfeImProgramm : public testing::Test {
  protected:
   HilfeImProgramm() {
     buehne.speicher.Schreiben(u"Options"_s, u"Show Tips at Startup"_s, u"1"_s);
+    EXPECT_TRUE(
+        QFile::copy(QStringLiteral(VESK_DATEN "/TIPOFDAY.TXT"), verzeichnis.filePath(u"TIPOFDAY.TXT"_s)));
     programm.Starten();
   }
   QString Seite() const {
@@ -53,16 +56,16 @@ TEST_F(HilfeImProgramm, F1OeffnetDenEintragJedesControls) {
   EXPECT_EQ(Seite(), u"kontext-1001.html");
   Hilfebuch buch(QStringLiteral(VESK_DATEN "/hilfe"));
   for (const int nummer : buch.Kontextnummern()) EXPECT_TRUE(nummern.contains(nummer)) << nummer;
-  const std::pair<const char*, int> controls[] = {{"txtPWR", 1002},     {"txtGewinn", 1003},
-                                                  {"txtAusgabe", 1005}, {"txtAusgabeHSM306", 1006},
-                                                  {"txtUssVDE", 1012},  {"lblMitHSM", 1032}};
-  for (const auto& [name, nummer] : controls) {
-    EXPECT_EQ(Lauf::Ding<QWidget>(QLatin1String(name)).property(HilfekontextEigenschaft).toInt(), nummer);
+  for (const Tabellenzeile& zeile : Tabelle("app/Hilfenummern.csv")) {
+    auto& control = Lauf::Ding<QWidget>(QString::fromStdString(zeile["control"]));
+    EXPECT_EQ(control.property(HilfekontextEigenschaft).toInt(), zeile.Zahl("nummer")) << zeile.text;
   }
 }
 
 TEST_F(HilfeImProgramm, MenueOeffnetHandbuchUndDasEndeSchliesstEs) {
   EXPECT_EQ(hilfe.Fenster(), nullptr);  // nothing of the help before it is wanted
+  ASSERT_TRUE(QTest::qWaitFor([] { return Lauf::Sichtbar(u"frmTip"_s); }));
+  EXPECT_TRUE(Lauf::Ding<QPlainTextEdit>(u"txtTip"_s, u"frmTip"_s).toPlainText().contains(u' '));
   programm.Befehlen(Befehl::HilfeBenutzen);
   EXPECT_EQ(Seite(), u"hilfe-benutzen.html");
   programm.Befehlen(Befehl::Handbuch);

@@ -81,7 +81,8 @@ class Zufallsbenutzer : public Verzeichnis, public Lauf {
   }
   std::size_t Zahl(std::size_t grenze) { return zufall_() % grenze; }
   QString Eingabe() {
-    return Waehlen(QStringList{u"14,2"_s, u"145"_s, u"435"_s, u"100"_s, u"5"_s, u"-3"_s, u"0"_s, u"50"_s});
+    return Waehlen(
+        QStringList{u"14,2"_s, u"145"_s, u"435"_s, u"100"_s, u"5"_s, u"-3"_s, u"0"_s, QString(45, u'9')});
   }
 
   void Bedienen(QWidget* ziel) {

@@ -11,6 +11,7 @@
 
 #include "persistence/Dateien.h"
 #include "persistence/Dateistand.h"
+#include "tests/Tabelle.h"
 #include "tests/persistence/Ordner.h"
 
 namespace vesk {
@@ -73,18 +74,9 @@ TEST(DateiSchreiben, WasNichtGehtHatEinenGrundUndLaesstAllesStehen) {
   mkfifo((ordner / "rohr").c_str(), 0600);
   const int vorher = ordner.Anzahl();
 
-  const std::pair<fs::path, const char*> faelle[] = {
-      {ordner / "fehlt" / "user.dat", "Das Verzeichnis gibt es nicht."},
-      {ordner / "datei" / "user.dat", "Ein Teil des Pfades ist kein Verzeichnis."},
-      {ordner / "ordner", "Unter diesem Namen gibt es ein Verzeichnis."},
-      {ordner / "", "Unter diesem Namen gibt es ein Verzeichnis."},
-      {ordner / "rohr", "Unter diesem Namen gibt es etwas, das keine gewöhnliche Datei ist."},
-      {"/dev/full", "Unter diesem Namen gibt es etwas, das keine gewöhnliche Datei ist."},
-      {ordner / "kreis1", "Die Verknüpfung führt im Kreis."},
-      {ordner / std::string(300, 'x'), "Der Name der Datei ist zu lang."},
-  };
-  for (const auto& [pfad, grund] : faelle) {
-    EXPECT_EQ(DateiSchreiben(pfad, "neu"), grund) << pfad;
+  for (const Tabellenzeile& zeile : Tabelle("persistence/Schreibfehler.csv")) {
+    const fs::path pfad = ordner / Ersetzt(zeile["pfad"], "{300}", std::string(300, 'x'));
+    EXPECT_EQ(DateiSchreiben(pfad, "neu"), zeile["grund"]) << pfad;
     EXPECT_NE(DateiKopieren(ordner / "datei", pfad), std::nullopt) << pfad;
     EXPECT_NE(Dateistand().Schreiben(pfad, "neu").ausgang, Dateistand::Ausgang::Geschrieben) << pfad;
   }

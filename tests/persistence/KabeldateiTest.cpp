@@ -46,6 +46,7 @@ TEST(KabelLaden, JedesGanzeKabelBehaeltSeineWerte) {
     for (const int n : {0, 1}) EXPECT_FLOAT_EQ(D100(katalog, n, 100), 7) << fehler;
     if (fehler.starts_with(Null)) {
       for (const int n : {2, 3}) EXPECT_FLOAT_EQ(D100(katalog, n, 500), 9);
+      EXPECT_EQ(D100(katalog, 2, 3000, false), -1000) << "where its values have no logarithm";
     } else if (fehler != "B,0") {
       EXPECT_FLOAT_EQ(D100(katalog, 2, 100), 6.12F) << "RG213 has its own";
       EXPECT_EQ(D100(katalog, 3, 100), 0) << "another cable has none";

@@ -1,7 +1,5 @@
 #pragma once
-#include <algorithm>
 #include <string>
-#include <tuple>
 
 #include "station/Station.h"
 
@@ -30,17 +28,6 @@ inline Station Musterstation() {
     spalte.Antenne += std::string(1, static_cast<char>('A' + nummer - 1));
   }
   return s;
-}
-
-/// Everything that the file holds.
-inline bool GleicherInhalt(const Station& a, const Station& b) {
-  const auto schalter = [](const Einstellungen& e) {
-    return std::tuple(e.ToolTips, e.AFu, e.Fenster, e.Meldungen);
-  };
-  return std::equal(a.Datenblattspalten.begin() + 1, a.Datenblattspalten.end(),
-                    b.Datenblattspalten.begin() + 1) &&
-         a.benutzer == b.benutzer && a.Zellen == b.Zellen && a.Fusszeile == b.Fusszeile &&
-         schalter(a.einstellungen) == schalter(b.einstellungen);
 }
 
 }  // namespace vesk

@@ -33,7 +33,7 @@ TEST(UserDatei, JedesByte) {
   Station gelesen;
   gelesen.spaltenfarben[1].rueckwaerts = true;
   const Lesebericht bericht = UserDateiLesen(bytes, gelesen);
-  EXPECT_TRUE(GleicherInhalt(gelesen, Musterstation()));
+  EXPECT_EQ(UserDateiSchreiben(gelesen), bytes);
   EXPECT_EQ(bericht.version, Dateiversion::Aktuell);
   EXPECT_TRUE(bericht.verlustfrei && bericht.User && bericht.bekannt && !bericht.abgebrochen);
   EXPECT_EQ(gelesen.werte.Modulationsfaktor, 1.0F) << "factors in force are not those of column G";
@@ -64,7 +64,7 @@ void Pruefen(const Fall& fall) {
   fall.wirkung(soll);
   Station ist = Musterstation();
   const Lesebericht bericht = UserDateiLesen(fall.bytes, ist);
-  EXPECT_TRUE(GleicherInhalt(ist, soll)) << UserDateiSchreiben(ist);
+  EXPECT_EQ(UserDateiSchreiben(ist), UserDateiSchreiben(soll));
   EXPECT_EQ(bericht.version, fall.version);
   EXPECT_EQ(std::string(bericht.bekannt ? "" : "b") + (bericht.abgebrochen ? "" : "a") +
                 (bericht.verlustfrei ? "v" : ""),
@@ -128,9 +128,10 @@ TEST(UserDatei, JederAnfangEinerDateiIstLesbarUndUnvollstaendig) {
   for (std::size_t laenge = 0; laenge <= letztes; laenge += 3) {
     Station ist;
     ASSERT_TRUE(UserDateiLesen(voll.substr(0, laenge), ist).abgebrochen) << laenge;
+    const std::string bytes = UserDateiSchreiben(ist);
     Station nochmals;
-    UserDateiLesen(UserDateiSchreiben(ist), nochmals);
-    ASSERT_TRUE(GleicherInhalt(ist, nochmals)) << laenge;
+    UserDateiLesen(bytes, nochmals);
+    ASSERT_EQ(UserDateiSchreiben(nochmals), bytes) << laenge;
   }
 }
 

@@ -12,6 +12,7 @@ struct Taste {
   QEvent::Type art;
   int taste;
   bool wiederholt = false;
+  quint64 zeit = 0;
 };
 using Tasten = std::vector<Taste>;
 constexpr auto Druck = QEvent::KeyPress;
@@ -24,6 +25,7 @@ void Senden(const Tasten& tasten) {
     QWidget* ziel = box->focusWidget() != nullptr ? box->focusWidget() : box;
     const QString text = taste.taste == Qt::Key_Space ? QStringLiteral(" ") : QString();
     QKeyEvent ereignis(taste.art, taste.taste, Qt::NoModifier, text, taste.wiederholt);
+    ereignis.setTimestamp(taste.zeit);
     QApplication::sendEvent(ziel, &ereignis);
     QCoreApplication::processEvents();
   }
@@ -49,9 +51,14 @@ Antwort Antworten(Antwort vorgabe, const std::function<void()>& vorher, const Ta
 }
 
 TEST(Boxen, NurEineNeueTasteAntwortet) {
-  const Tasten gehalten = {{Druck, Qt::Key_Return, true}, {Druck, Qt::Key_Enter, true},
-                           {Druck, Qt::Key_Space, true},  {Los, Qt::Key_Return},
-                           {Los, Qt::Key_Space},          {Druck, Qt::Key_Escape, true}};
+  const Tasten gehalten = {{Druck, Qt::Key_Return, true},
+                           {Druck, Qt::Key_Enter, true},
+                           {Druck, Qt::Key_Space, true},
+                           {Los, Qt::Key_Return},
+                           {Los, Qt::Key_Space},
+                           {Druck, Qt::Key_Escape, true},
+                           {Los, Qt::Key_Return, false, 7},
+                           {Druck, Qt::Key_Return, false, 7}};
   const Tasten enter = {{Druck, Qt::Key_Return}, {Los, Qt::Key_Return}};
   const Tasten leertaste = {{Druck, Qt::Key_Space}, {Los, Qt::Key_Space}};
   const Tasten escape = {{Druck, Qt::Key_Escape}, {Los, Qt::Key_Escape}};

@@ -83,6 +83,9 @@ TEST_F(Geschichte, OptionenSchliessenMitFrequenzInArbeit) {
   Tippen(KabelQRG, "435").Tun(OptionenSchliessen);
   EXPECT_TRUE(Aktuell(s) && !s.OptionenBeruecksichtigen);
   EXPECT_EQ(s.werte.QRGText + '|' + s.werte.DaempfungText + '|' + Ohne(), "435|7.42|0.82");
+  s.ergebnis->kopiert = true;
+  Tun(FeldBetreten, QRG).Verlassen();
+  EXPECT_TRUE(s.ergebnis->kopiert) << "handed on already";
 }
 
 TEST_F(Geschichte, LeistungsmodusGibtDerWinkelseiteKeinenAbstand) {
@@ -110,6 +113,8 @@ TEST_F(Geschichte, WinkeltabelleBleibtUndIhreDateiAuch) {
   Tun(ModusGeklickt).Tun(ZelleGeklickt, 1);
   EXPECT_EQ(s.Datenblattspalten[0].Winkel[2] + s.winkel.datei, "7");
   EXPECT_EQ(s.modus, Modus::Abstand);
+  Tun(WinkeldaempfungGetippt, std::size_t{3}, std::string("5"));
+  EXPECT_EQ(s.Datenblattspalten[1].Winkel[3], "5");
 }
 
 TEST_F(Geschichte, SektorenVeralten) {
@@ -179,7 +184,9 @@ TEST_F(Geschichte, FehlerUndAndereFrequenz) {
   EXPECT_FALSE(Kopierbar(s));
   Eingeben("14.2").Rechnen();
   // Heads never stand over another frequency's figures.
-  Tippen(PWR, "").Tippen(QRG, "145").Verlassen();
+  Tippen(PWR, "").Tun(AFuUmschalten);
+  EXPECT_FALSE(s.ergebnis);
+  Tun(AFuUmschalten).Eingeben("14.2").Rechnen().Tippen(PWR, "").Tippen(QRG, "145").Verlassen();
   EXPECT_FALSE(s.ergebnis);
   EXPECT_EQ(s.koepfe->hsm, 144.0F);
 }

@@ -6,19 +6,11 @@
 
 namespace vesk {
 
-/// The child of that object name, or an exception that lists the names there are.
+/// The child of that object name.
 template <typename T>
 T& Finden(const QObject& wurzel, const QString& name) {
   if (auto* kind = wurzel.findChild<T*>(name)) return *kind;
-  QStringList namen;
-  for (const QObject* kind : wurzel.findChildren<QObject*>()) {
-    if (!kind->objectName().isEmpty() && !kind->objectName().startsWith(QLatin1String("qt_"))) {
-      namen << kind->objectName();
-    }
-  }
-  namen.sort();
-  throw std::runtime_error("Kein \"" + name.toStdString() + "\" in " + wurzel.objectName().toStdString() +
-                           ": " + namen.join(QLatin1Char(' ')).toStdString());
+  throw std::runtime_error("Kein " + name.toStdString() + " in " + wurzel.objectName().toStdString());
 }
 
 /// What the user sees behind the text of a control.
