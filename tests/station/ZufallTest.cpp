@@ -86,8 +86,10 @@ class Zufallsbenutzer : public Tisch {
     const bool vorher = s.ergebnis && s.ergebnis->kopiert;
     Kopieren();
     const bool kopiert = !vorher && s.ergebnis && s.ergebnis->kopiert;
-    // Without the options a row of modes that was there before may claim others.
-    if (kopiert && s.OptionenBeruecksichtigen) MussHalten(frei.front() - 'A' + 1);
+    // Without the options a row of modes that was there before may claim others; in power mode rows 11 and 12
+    // stay as they were.
+    if (kopiert && s.OptionenBeruecksichtigen && s.modus == Modus::Abstand)
+      MussHalten(frei.front() - 'A' + 1);
   }
 
   const std::vector<std::function<void()>> taten_ = {
