@@ -9,8 +9,7 @@ namespace vesk {
 
 namespace {
 
-constexpr double Lichtgeschwindigkeit = 299.7925;  // m * MHz
-constexpr double NahfeldJeLambda = 1 / (2 * 3.141592654);
+constexpr double NahfeldJeLambda = 1 / (2 * Pi);
 
 double HochZehn(double exponent) {
   return std::pow(10.0, exponent);
@@ -99,7 +98,7 @@ Grenzwerte GrenzwerteBestimmen(float qrg, bool afu, std::int16_t grenzwerttyp) {
 void FelderBestimmen(Grenzwerte& g) {
   g.Lambda = AlsSingle(Lichtgeschwindigkeit / g.frequenz.lambda);
   g.Nahfeld = AlsSingle(g.Lambda * NahfeldJeLambda);
-  g.Fernfeld = AlsSingle(4.0 * g.Lambda);
+  g.Fernfeld = AlsSingle(FernfeldInLambda * g.Lambda);
 }
 
 void GrenzwerteZuruecksetzen(Rechenwerte& werte) {

@@ -22,6 +22,10 @@ struct Rechenart {
 /// The root of 30 in d = sqrt(30 * EIRP) / E (m, W, V/m), at the four digits that all figures rest on.
 inline constexpr double Wurzel30 = 5.477;
 
+inline constexpr double Lichtgeschwindigkeit = 299.7925;  ///< m * MHz
+inline constexpr double Pi = 3.141592654;                 ///< the near field ends at Lambda / (2 Pi)
+inline constexpr double FernfeldInLambda = 4;             ///< where the far field begins
+
 /// Numbers that enter a calculation beside frequency and signal type.
 struct Stationswerte {
   float PWR = 0;        ///< W; the given distance in m in power mode

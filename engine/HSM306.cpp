@@ -9,19 +9,12 @@ namespace vesk {
 
 namespace {
 
-struct Abschnitt {
-  double fu;      // MHz
-  float fo;       // MHz
-  double Uu, Uo;  // V
-  double ln;      // ln(fo / fu)
-};
-
 constexpr double Effektiv = 1 / std::numbers::sqrt2;  // effective value of a peak
 
 constexpr double ln2 = std::numbers::ln2;
 constexpr double ln2_5 = 0.91629073187415507;
 
-constexpr std::array<Abschnitt, 9> Schwellen306 = {{
+constexpr std::array<HSM306Zeile, 9> Schwellen306 = {{
     {0.05, 0.1F, 0.022, 0.022, ln2},
     {0.1, 0.2F, 0.022, 0.03, ln2},
     {0.2, 0.5F, 0.03, 0.045, ln2_5},
@@ -33,24 +26,24 @@ constexpr std::array<Abschnitt, 9> Schwellen306 = {{
     {20, 50.0F, 0.34, 0.2, ln2_5},
 }};
 
-const Abschnitt& Suchen(float f) {
-  for (const Abschnitt& abschnitt : Schwellen306) {
-    if (f < abschnitt.fo) return abschnitt;
-  }
-  return Schwellen306.back();
-}
-
 }  // namespace
 
+const HSM306Zeile* HSM306ZeileFuer(float f) {
+  if (!(f >= HSM306Von && f <= HSM306Bis)) return nullptr;
+  for (const HSM306Zeile& zeile : Schwellen306) {
+    if (f < zeile.fo) return &zeile;
+  }
+  return &Schwellen306.back();
+}
+
 HSM306Werte HSM306(float f) {
-  if (!(f >= 0.05F && f <= 50.0F)) return {};
-  const Abschnitt& a = Suchen(f);
+  const HSM306Zeile* const a = HSM306ZeileFuer(f);
+  if (a == nullptr) return {};
 
   HSM306Werte werte;
-  // Linear in the logarithm of the frequency, of whatever base.
-  const double anteil = std::log(f / a.fu) / a.ln;
-  werte.Uss = AlsSingle((a.Uo - a.Uu) * anteil + a.Uu);
-  werte.Spitzenfeld = AlsSingle(static_cast<double>(werte.Uss) / f * 415);
+  const double anteil = std::log(f / a->fu) / a->ln;
+  werte.Uss = AlsSingle((a->Uo - a->Uu) * anteil + a->Uu);
+  werte.Spitzenfeld = AlsSingle(static_cast<double>(werte.Uss) / f * Spitzenfeld306);
   werte.Grenzwert = AlsSingle(werte.Spitzenfeld * Effektiv);
   return werte;
 }

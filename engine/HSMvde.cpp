@@ -1,8 +1,6 @@
 #include <array>
 #include <cmath>
-#include <limits>
 #include <numbers>
-#include <span>
 
 #include "engine/HSM.h"
 #include "engine/Laufzeitfehler.h"
@@ -15,72 +13,72 @@ namespace {
 constexpr double Effektiv = 1 / std::numbers::sqrt2;  // effective value of a peak
 constexpr double Freiraum = 376.99111848;             // wave impedance of free space, 120 pi Ohm
 
-/// Threshold U0 * (f / f0) ^ p from the end of the row before up to `bis`; p = 0 is a constant.
-struct Abschnitt {
-  float bis;  // MHz
-  bool einschliesslich;
-  double U0;  // V; 0: none
-  double f0;  // MHz
-  double p;
-};
-
 constexpr double konstant = 0;
-constexpr float ohneEnde = std::numeric_limits<float>::infinity();
 
-constexpr std::array<Abschnitt, 10> SchwellenAM = {{
-    {0.63F, false, 0.059, 1, konstant},
-    {0.79F, false, 0.059, 0.63, 1.29},
-    {1.0F, false, 0.079, 1, konstant},
-    {1.3F, false, 0.079, 1.0, 1.084},
-    {1.7F, false, 0.105, 1, konstant},
-    {7.0F, false, 0.105, 1.7, 1.51},
-    {22.0F, false, 0.89, 1, konstant},
-    {79.0F, false, 0.89, 22, -1.71},
-    {100.0F, true, 0.1, 1, konstant},
-    {ohneEnde, true, 0, 1, konstant},
+constexpr std::array<HSMvdeZeile, 9> SchwellenAM = {{
+    {{0.03F, 0.63F}, 0.059, 1, konstant},
+    {{0.63F, 0.79F}, 0.059, 0.63, 1.29},
+    {{0.79F, 1.0F}, 0.079, 1, konstant},
+    {{1.0F, 1.3F}, 0.079, 1.0, 1.084},
+    {{1.3F, 1.7F}, 0.105, 1, konstant},
+    {{1.7F, 7.0F}, 0.105, 1.7, 1.51},
+    {{7.0F, 22.0F}, 0.89, 1, konstant},
+    {{22.0F, 79.0F}, 0.89, 22, -1.71},
+    {{79.0F, 100.0F, false, true}, 0.1, 1, konstant},
 }};
 
-constexpr std::array<Abschnitt, 8> SchwellenTV = {{
-    {79.0F, false, 0, 1, konstant},
-    {144.0F, false, 0.13, 79, 0.6},
-    {200.0F, false, 0.186, 144, 4.4},
-    {240.0F, false, 0.789, 200, -4.7},
-    {500.0F, false, 0.335, 1, konstant},
-    {600.0F, false, 0.335, 500, -3.8},
-    {1100.0F, true, 0.168, 600, 0.6},
-    {ohneEnde, true, 0, 1, konstant},
+constexpr std::array<HSMvdeZeile, 6> SchwellenTV = {{
+    {{79.0F, 144.0F}, 0.13, 79, 0.6},
+    {{144.0F, 200.0F}, 0.186, 144, 4.4},
+    {{200.0F, 240.0F}, 0.789, 200, -4.7},
+    {{240.0F, 500.0F}, 0.335, 1, konstant},
+    {{500.0F, 600.0F}, 0.335, 500, -3.8},
+    {{600.0F, 1100.0F, false, true}, 0.168, 600, 0.6},
 }};
 
-constexpr std::array<Abschnitt, 6> SchwellenGSM = {{
-    {850.0F, false, 0, 1, konstant},
-    {1200.0F, false, 0.358, 1, konstant},
-    {1800.0F, true, 0.358, 1200, 5.7},
-    {2000.0F, false, 3.61, 1, konstant},
-    {2500.0F, true, 3.61, 2000, -3.0},
-    {ohneEnde, true, 0, 1, konstant},
+constexpr std::array<HSMvdeZeile, 4> SchwellenGSM = {{
+    {{850.0F, 1200.0F}, 0.358, 1, konstant},
+    {{1200.0F, 1800.0F, false, true}, 0.358, 1200, 5.7},
+    {{1800.0F, 2000.0F, true}, 3.61, 1, konstant},
+    {{2000.0F, 2500.0F, false, true}, 3.61, 2000, -3.0},
 }};
 
-std::span<const Abschnitt> Schwellen(std::int16_t grenzwerttyp) {
-  switch (grenzwerttyp) {
-    case GrenzwertAM:
-      return SchwellenAM;
-    case GrenzwertTV:
-      return SchwellenTV;
-    default:
-      return SchwellenGSM;
-  }
-}
+// 2500 MHz itself has a threshold but no conversion.
+constexpr std::array<Umrechnungszeile, 6> Umrechnungen = {{
+    {{0.03F, 3.0F}, 3, 1, {{{183.43, 1, -1}}}},
+    {{3.0F, 9.5F}, 3, 3, {{{183.43, 1, -1}, {196.03538161, 1, -2}, {520, 1, -2.85}}}},
+    {{9.5F, 200.0F}, 1, 2, {{{0.052, Freiraum, konstant}, {19.6, 1, konstant}}}},
+    {{200.0F, 400.0F}, 200, 2, {{{19.603538161, 1, 2.94}, {19.6, 1, 2.94}}}},
+    {{400.0F, 1500.0F}, 1, 2, {{{0.4, Freiraum, konstant}, {150, 1, konstant}}}},
+    {{1500.0F, 2500.0F}, 1500, 2, {{{150.796447392, 1, 3}, {150, 1, 3}}}},
+}};
 
 float Schwelle(float f, std::int16_t grenzwerttyp) {
-  for (const Abschnitt& a : Schwellen(grenzwerttyp)) {
-    if (f < a.bis || (a.einschliesslich && f == a.bis)) {
-      if (a.p == konstant) return static_cast<float>(a.U0);
-      // A falling curve turns its fraction over instead of its sign, as the standard writes it.
-      const double verhaeltnis = a.p > 0 ? f / a.f0 : a.f0 / f;
-      return AlsSingle(a.U0 * std::pow(verhaeltnis, std::abs(a.p)));
-    }
-  }
-  return 0;
+  const HSMvdeZeile* const a = ZeileFuer(HSMvdeZeilen(grenzwerttyp), f);
+  if (a == nullptr) return 0;
+  if (a->p == konstant) return static_cast<float>(a->U0);
+  // A falling curve turns its fraction over instead of its sign, as the standard writes it.
+  const double verhaeltnis = a->p > 0 ? f / a->f0 : a->f0 / f;
+  return AlsSingle(a->U0 * std::pow(verhaeltnis, std::abs(a->p)));
+}
+
+/// f / f0, turned over for falling conversions; those of a row rise or fall alike.
+double Verhaeltnis(const Umrechnungszeile& zeile, float f) {
+  return zeile.umrechnungen.front().p > 0 ? f / zeile.f0 : zeile.f0 / f;
+}
+
+/// The ratio to the power of |p|.
+double Frequenzgang(double verhaeltnis, double p) {
+  const double hoch = std::abs(p);
+  if (hoch == 0) return 1;
+  if (hoch == 1) return verhaeltnis;
+  if (hoch == 2) return verhaeltnis * verhaeltnis;
+  if (hoch == 3) return verhaeltnis * verhaeltnis * verhaeltnis;
+  return std::pow(verhaeltnis, hoch);
+}
+
+double Umrechnen(const Umrechnung& u, float Uss, double frequenzgang) {
+  return double{Uss} * u.faktor * u.Z * frequenzgang;
 }
 
 /// Sorts a candidate (V/m) in, at the five decimals of its text, which is the precision of the limit.
@@ -92,35 +90,41 @@ void Merken(HSMvdeWerte& werte, double feld) {
   werte.Kandidaten[i] = kandidat;
 }
 
-/// Conversion of the threshold into peak field strengths, by the frequency.
 void KandidatenBilden(HSMvdeWerte& werte, float f) {
-  const double U = werte.Uss;
-  const double X = 3.0 / f;
-  if (f < 3.0F) {
-    Merken(werte, U * 183.43 * X);
-  } else if (f < 9.5F) {
-    Merken(werte, U * 183.43 * X);
-    Merken(werte, U * 196.03538161 * X * X);
-    Merken(werte, U * 520 * std::pow(X, 2.85));
-  } else if (f < 200.0F) {
-    Merken(werte, U * 0.052 * Freiraum);
-    Merken(werte, U * 19.6);
-  } else if (f < 400.0F) {
-    const double anstieg = std::pow(f / 200.0, 2.94);
-    Merken(werte, anstieg * U * 19.603538161);
-    Merken(werte, anstieg * U * 19.6);
-  } else if (f < 1500.0F) {
-    Merken(werte, U * 0.4 * Freiraum);
-    Merken(werte, U * 150);
-  } else if (f < 2500.0F) {
-    const double x = f / 1500.0;
-    const double anstieg = x * x * x;
-    Merken(werte, anstieg * U * 150.796447392);
-    Merken(werte, anstieg * U * 150);
+  const Umrechnungszeile* const zeile = UmrechnungszeileFuer(f);
+  if (zeile == nullptr) return;
+  const double verhaeltnis = Verhaeltnis(*zeile, f);
+  double frequenzgang = 1;
+  double p = konstant;
+  for (int i = 0; i < zeile->anzahl; ++i) {
+    const Umrechnung& u = zeile->umrechnungen[static_cast<std::size_t>(i)];
+    if (u.p != p) frequenzgang = Frequenzgang(verhaeltnis, u.p);
+    p = u.p;
+    Merken(werte, Umrechnen(u, werte.Uss, frequenzgang));
   }
 }
 
 }  // namespace
+
+std::span<const HSMvdeZeile> HSMvdeZeilen(std::int16_t grenzwerttyp) {
+  switch (grenzwerttyp) {
+    case GrenzwertAM:
+      return SchwellenAM;
+    case GrenzwertTV:
+      return SchwellenTV;
+    default:
+      return SchwellenGSM;
+  }
+}
+
+const Umrechnungszeile* UmrechnungszeileFuer(float f) {
+  return ZeileFuer(Umrechnungen, f);
+}
+
+double Spitzenfeld(const Umrechnungszeile& zeile, std::size_t umrechnung, float Uss, float f) {
+  const Umrechnung& u = zeile.umrechnungen.at(umrechnung);
+  return Umrechnen(u, Uss, Frequenzgang(Verhaeltnis(zeile, f), u.p));
+}
 
 HSMvdeWerte HSMvde(float f, std::int16_t grenzwerttyp) {
   HSMvdeWerte werte;
