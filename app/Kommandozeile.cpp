@@ -8,6 +8,7 @@
 #include <ostream>
 #include <vector>
 
+#include "app/Druckbefehl.h"
 #include "app/Rechenauftrag.h"
 #include "engine/Ausgabe.h"
 #include "engine/Hinweise.h"
@@ -25,6 +26,7 @@ constexpr const char* Hilfe =
     "\n"
     "Aufruf: vesk [--verzeichnis DIR]    öffnet das Programm\n"
     "        vesk rechnen ...            rechnet im Terminal (siehe unten)\n"
+    "        vesk drucken ...            schreibt die Unterlagen als PDF (siehe unten)\n"
     "        vesk --version              zeigt die Version\n"
     "        vesk --help                 zeigt diese Hilfe\n"
     "\n"
@@ -51,6 +53,29 @@ constexpr const char* Hilferechnen =
     "\n"
     "Rückgabewert: 0; 1 bei einem Fehler der Berechnung oder der Ausgabe; 2 bei falschen oder fehlenden "
     "Angaben.\n";
+
+constexpr const char* Hilfedrucken =
+    "Aufruf: vesk drucken --art ART --datei DATEI --nach PDF [Optionen]\n"
+    "\n"
+    "Schreibt Unterlagen einer Benutzerdatei als PDF. Die Benutzerdatei bleibt, wie sie ist.\n"
+    "\n"
+    "  --art ART           mappe (alle Unterlagen), antrag, datenblatt, regtp (Datenblatt der RegTP),\n"
+    "                      benutzer (persönliche Daten), winkel (Winkeldiagramme), rechenweg\n"
+    "  --datei DATEI       Benutzerdatei, zum Beispiel user.dat\n"
+    "  --nach PDF          Datei, die geschrieben wird; eine vorhandene wird ersetzt\n"
+    "  --help              diese Hilfe\n"
+    "\n"
+    "Nur zu winkel und mappe:\n"
+    "  --winkeldatei DATEI Winkeltabelle; die Leistung ist die größte der Spalten dieser Frequenz.\n"
+    "                      Ohne sie gelten die Winkeltabellen der Spalten.\n"
+    "  --hsm ohne|306|vde  nur die Diagramme dieser Sicherheitsabstände (Vorgabe: alle)\n"
+    "  --massstab 1:N      Maßstab der Diagramme, 1:1 bis 1:100000 (Vorgabe: passend zur Seite)\n"
+    "\n"
+    "  --verzeichnis DIR   Verzeichnis mit Kabel.txt (Vorgabe: das des Programms)\n"
+    "\n"
+    "Mit SOURCE_DATE_EPOCH als Zeit (Sekunden seit 1970) entsteht jedes Mal dieselbe Datei.\n"
+    "Rückgabewert: 0; 1, wenn eine Datei nicht zu lesen oder zu schreiben ist oder nichts zu drucken da ist; "
+    "2 bei falschen oder fehlenden Angaben.\n";
 
 /// The notes that a window would have shown, in its order.
 std::vector<Hinweis> Hinweise(const Rechenergebnis& e) {
@@ -209,13 +234,30 @@ int Rechnen(const QStringList& argumente, char dezimaltrenner, std::ostream& aus
   return 1;
 }
 
+int Drucken(const QStringList& argumente, std::ostream& aus, std::ostream& fehler) {
+  const Druckbefehl befehl = DruckbefehlLesen(argumente);
+  if (befehl.hilfe) {
+    aus << Hilfedrucken;
+    return 0;
+  }
+  try {
+    fehler << PapiereSchreiben(befehl);
+    return 0;
+  } catch (const Eingabefehler&) {
+    throw;
+  } catch (const std::runtime_error& grund) {
+    fehler << "vesk drucken: " << grund.what() << '\n';
+    return 1;
+  }
+}
+
 Aufruf Fensteraufruf(const QStringList& argumente, std::ostream& aus) {
   QCommandLineParser leser;
   // All but the first are read by the toolkit itself.
   OptionenLesen(leser, {u"verzeichnis"_s, u"platform"_s, u"display"_s, u"style"_s, u"geometry"_s, u"name"_s},
                 {u"version"_s}, argumente);
   if (leser.isSet(u"help"_s)) {
-    aus << Produktname << ' ' << VersionLang() << Hilfe << Hilferechnen;
+    aus << Produktname << ' ' << VersionLang() << Hilfe << Hilferechnen << '\n' << Hilfedrucken;
     return {0, {}};
   }
   if (leser.isSet(u"version"_s)) {
@@ -233,11 +275,17 @@ Aufruf Fensteraufruf(const QStringList& argumente, std::ostream& aus) {
 Aufruf KommandozeileAusfuehren(const QStringList& argumente, char dezimaltrenner, std::ostream& aus,
                                std::ostream& fehler) {
   const bool rechnen = argumente.value(0) == u"rechnen"_s;
-  const char* const name = rechnen ? "vesk rechnen" : "vesk";
+  const bool drucken = argumente.value(0) == u"drucken"_s;
+  const char* const name = rechnen ? "vesk rechnen" : drucken ? "vesk drucken" : "vesk";
   Aufruf aufruf;
   try {
-    aufruf = rechnen ? Aufruf{Rechnen(argumente.mid(1), dezimaltrenner, aus, fehler), {}}
-                     : Fensteraufruf(argumente, aus);
+    if (rechnen) {
+      aufruf.rueckgabe = Rechnen(argumente.mid(1), dezimaltrenner, aus, fehler);
+    } else if (drucken) {
+      aufruf.rueckgabe = Drucken(argumente.mid(1), aus, fehler);
+    } else {
+      aufruf = Fensteraufruf(argumente, aus);
+    }
   } catch (const Eingabefehler& eingabe) {
     fehler << name << ": " << eingabe.what() << "\nMehr dazu: " << name << " --help\n";
     return {2, {}};

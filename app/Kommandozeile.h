@@ -11,8 +11,9 @@ struct Aufruf {
   QString verzeichnis;           ///< --verzeichnis; empty: not given
 };
 
-/// Does what needs no display: `rechnen …`, help, version. Exit code: 0; 1 a fault of the calculation (what
-/// was computed is printed), or the output could not be written; 2 wrong or missing input (nothing on `aus`).
+/// Does what needs no display: `rechnen …`, `drucken …`, help, version. Exit code: 0; 1 a fault of the
+/// calculation (what was computed is printed), a file that cannot be read or written, nothing to print, or
+/// the output could not be written; 2 wrong or missing input (nothing on `aus`).
 Aufruf KommandozeileAusfuehren(const QStringList& argumente, char dezimaltrenner, std::ostream& aus,
                                std::ostream& fehler);
 

@@ -21,6 +21,7 @@
 #include "ui/info/frmTip.h"
 #include "ui/options/frmOptions.h"
 #include "ui/power/frmLstg.h"
+#include "ui/preview/frmVorschau.h"
 #include "ui/user/frmUser.h"
 
 using namespace Qt::StringLiterals;
@@ -55,11 +56,6 @@ Fenster& Angelegt(std::unique_ptr<Fenster>& fenster, const Station& station, Wer
     fenster->Zeigen(station);
   }
   return *fenster;
-}
-
-void Oeffnen(QWidget& fenster) {
-  fenster.show();
-  fenster.activateWindow();
 }
 
 }  // namespace
@@ -126,6 +122,10 @@ frmUser& Programm::Benutzerfenster() {
   return Angelegt(benutzer_, station_, *this, plattform_.ton, &hauptfenster_);
 }
 
+frmVorschau& Programm::Vorschau() {
+  return Angelegt(vorschau_, station_, *this, kataloge_);
+}
+
 frmLstg& Programm::Leistungsumrechnung() {
   return Angelegt(leistung_, station_, *this, plattform_.ton, Dezimaltrenner(), &hauptfenster_);
 }
@@ -174,6 +174,7 @@ void Programm::Zeigen() {
   zeigen(optionen_, station_.fenster.optionen, &Programm::Optionen);
   zeigen(datenblatt_, station_.fenster.datenblatt, &Programm::Datenblatt);
   zeigen(benutzer_, station_.fenster.benutzer, &Programm::Benutzerfenster);
+  zeigen(vorschau_, station_.fenster.vorschau, &Programm::Vorschau);
   if (leistung_) leistung_->Zeigen(station_);
 }
 
@@ -207,70 +208,6 @@ std::optional<fs::path> Programm::ZumOeffnen(const Dateiwahl& wahl) {
 
 std::optional<fs::path> Programm::ZumSpeichern(const Dateiwahl& wahl) {
   return AlsPfad(plattform_.dialoge.Speichern(AlsDialog(wahl)));
-}
-
-void Programm::Befehlen(Befehl befehl) {
-  if (beendet_) return;
-  const auto datei = [this](auto tun) {
-    Tun([tun](Station&, const Kataloge&) {
-      tun();
-      return Meldungen{};
-    });
-  };
-  switch (befehl) {
-    case Befehl::DateiLaden:
-      return datei([this] { dateien_.UserLaden(); });
-    case Befehl::DateiSpeichern:
-      return datei([this] { dateien_.UserSpeichern(); });
-    case Befehl::DateiSpeichernUnter:
-      return datei([this] { dateien_.UserSpeichernUnter(); });
-    case Befehl::AenderungenVerwerfen:
-      return datei([this] { dateien_.AenderungenVerwerfen(); });
-    case Befehl::UserNeu:
-      return datei([this] { dateien_.UserNeu(); });
-    case Befehl::BenutzerVerborgen:
-      return datei([this] { dateien_.BenutzerVerborgen(); });
-    case Befehl::WinkelLaden:
-      return datei([this] { WinkelOeffnen(station_, *this); });
-    case Befehl::WinkelSpeichern:
-      return datei([this] { WinkelSpeichern(station_, *this); });
-    case Befehl::WinkelSpeichernUnter:
-      return datei([this] { WinkelSpeichernUnter(station_, *this); });
-    case Befehl::Beenden:
-      return Beenden();
-    case Befehl::OptionenZeigen:
-      Tun(OptionenOeffnen);
-      return Optionen().activateWindow();
-    case Befehl::DatenblattZeigen:
-      Tun(DatenblattOeffnen);
-      return Datenblatt().activateWindow();
-    case Befehl::BenutzerZeigen:
-      return Tun(BenutzerOeffnen);
-    case Befehl::LeistungsumrechnungZeigen:
-      return Oeffnen(Leistungsumrechnung());
-    case Befehl::TipZeigen:
-      return TipZeigen();
-    case Befehl::InfoZeigen:
-      return InfoZeigen();
-    case Befehl::Handbuch:
-      return plattform_.hilfe.Aufrufen(u"Vesk32.HLP"_s, Hilfebefehl::Inhalt, 1030);
-    case Befehl::HilfeBenutzen:
-      return plattform_.hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::HilfeBenutzen, 0);
-  }
-}
-
-void Programm::TipZeigen() {
-  if (!tip_) {
-    const Gelesen datei = DateiLesen(fs::path(station_.ProgrammVerzeichnis) / "TIPOFDAY.TXT");
-    tip_ = std::make_unique<frmTip>(plattform_.speicher, TipsLesen(datei.bytes), &hauptfenster_);
-  }
-  Oeffnen(*tip_);
-}
-
-void Programm::InfoZeigen() {
-  frmInfo& info = Angelegt(info_, station_, &hauptfenster_);
-  info.Zeigen(station_);
-  info.show();
 }
 
 void Programm::RettungSichern() {

@@ -20,6 +20,8 @@ class frmLstg;
 class frmOptions;
 class frmTip;
 class frmUser;
+class frmVorschau;
+struct Mappe;
 struct Plattform;
 
 /// The running program: turns what the user did into a function call on the station, shows the station in
@@ -42,10 +44,12 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   frmDatenblatt& Datenblatt();
   frmUser& Benutzerfenster();
   frmLstg& Leistungsumrechnung();
+  frmVorschau& Vorschau();
 
   void Tun(const Handlung& handlung) override;
   void TunBeimVerlassen(const Handlung& handlung) override;
   void Befehlen(Befehl befehl) override;
+  void Hinzeigen(const Papierort& ort) override;
 
  Q_SIGNALS:
   /// Everything is saved; the event loop may end.
@@ -61,6 +65,8 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   void Sagen(const Meldungen& meldungen);
   void AufgeschobenesSagen();
   void HauptfensterAktiviert(QWindow* jetzt);
+  /// What the preview shows.
+  Mappe Papiere() const;
   void TipZeigen();
   void InfoZeigen();
 
@@ -73,6 +79,7 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   std::unique_ptr<frmDatenblatt> datenblatt_;
   std::unique_ptr<frmUser> benutzer_;
   std::unique_ptr<frmLstg> leistung_;
+  std::unique_ptr<frmVorschau> vorschau_;
   std::unique_ptr<frmTip> tip_;
   std::unique_ptr<frmInfo> info_;
   Dateiablauf dateien_;

@@ -22,10 +22,10 @@ struct Bereich {
 };
 
 constexpr float Endlos = std::numeric_limits<float>::max();
-constexpr Bereich GroesserNull = {0, Endlos, true, u"muss größer als 0 sein"};
+constexpr Bereich GroesserNull = {0, Endlos, true, u"muß größer als 0 sein"};
 constexpr Bereich NichtNegativ = {0, Endlos, false, u"darf nicht negativ sein"};
 constexpr Bereich HoechstensHundert = {-Endlos, 100, false, u"darf höchstens 100 dBi betragen"};
-constexpr Bereich BisEins = {0, 1, true, u"muss größer als 0 und höchstens 1 sein"};
+constexpr Bereich BisEins = {0, 1, true, u"muß größer als 0 und höchstens 1 sein"};
 
 /// The texts of the record that are numbers.
 struct Zahloption {

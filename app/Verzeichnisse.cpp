@@ -36,12 +36,11 @@ QString Datenverzeichnis(const QString& anwendung) {
 }  // namespace
 
 Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& anwendung) {
-  Verzeichnisse v{Programmverzeichnis(gewuenscht, anwendung), Datenverzeichnis(anwendung)};
-  QDir().mkpath(v.programm);
-  return v;
+  return {Programmverzeichnis(gewuenscht, anwendung), Datenverzeichnis(anwendung)};
 }
 
 void MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher) {
+  QDir().mkpath(verzeichnisse.programm);
   if (verzeichnisse.daten.isEmpty()) return;
   const QString schluessel = QString::fromLatin1(QUrl::toPercentEncoding(verzeichnisse.programm));
   for (const QString& name : {u"Kabel.txt"_s, u"Antennen.txt"_s, u"TIPOFDAY.TXT"_s}) {

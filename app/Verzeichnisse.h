@@ -12,11 +12,11 @@ struct Verzeichnisse {
 };
 
 /// `gewuenscht` is --verzeichnis; else the directory of the executable (`anwendung`) when it is writable and
-/// holds user.dat or Kabel.txt; else the per-user data directory. Creates the directory if it is missing.
+/// holds user.dat or Kabel.txt; else the per-user data directory. Changes nothing on the disk.
 Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& anwendung);
 
-/// Copies the shipped catalogues and tips into the program directory, so that the user may edit them. A file
-/// is copied there once: one that the user has deleted stays deleted.
+/// Creates the program directory if it is missing and copies the shipped catalogues and tips there, so that
+/// the user may edit them. A file is copied once: one that the user has deleted stays deleted.
 void MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher);
 
 }  // namespace vesk

@@ -11,7 +11,7 @@
 #include "app/Verzeichnisse.h"
 #include "engine/Version.h"
 #include "platform/Endesignal.h"
-#include "platform/QtDokumentdrucker.h"
+#include "platform/QtDrucker.h"
 #include "platform/QtPlattform.h"
 #include "ui/basis/Dezimaltrenner.h"
 #include "ui/basis/Programmbild.h"
@@ -27,12 +27,8 @@ bool OhneBildschirm() {
 }
 
 int FensterOeffnen(int anzahl, char** argumente, const QString& verzeichnis) {
-  // A limit on the size of files must let a save fail, not end the program with the data in it.
-  std::signal(SIGXFSZ, SIG_IGN);
   vesk::Endesignal ende;
   const QApplication anwendung(anzahl, argumente);
-  QApplication::setApplicationName(u"Vesk"_s);
-  QApplication::setOrganizationName(u"Vesk"_s);
   QApplication::setApplicationVersion(QString::fromStdString(vesk::VersionLang()));
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(vesk::Programmbild(64, 1));
@@ -46,13 +42,15 @@ int FensterOeffnen(int anzahl, char** argumente, const QString& verzeichnis) {
   vesk::QtDateidialoge dialoge;
   vesk::QtBenutzerspeicher speicher;
   vesk::QtSignalton ton;
-  vesk::QtDokumentdrucker drucker;
+  vesk::QtDrucker drucker;
+  vesk::QtBetrachter betrachter;
+  vesk::QtFortschrittsanzeige fortschritt;
   const vesk::Verzeichnisse verzeichnisse =
       vesk::VerzeichnisseBestimmen(verzeichnis, QApplication::applicationDirPath());
   vesk::MitgelieferteKopieren(verzeichnisse, speicher);
   vesk::Station station;
   vesk::Hilfesystem hilfe(verzeichnisse.daten + "/hilfe"_L1, boxen, drucker);
-  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
+  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton, drucker, betrachter, fortschritt};
   vesk::Programm programm(station, plattform, verzeichnisse);
   // exit, not quit: quit would close the windows, and closing the options window means something.
   QObject::connect(
@@ -67,6 +65,10 @@ int FensterOeffnen(int anzahl, char** argumente, const QString& verzeichnis) {
 }  // namespace
 
 int main(int anzahl, char** argumente) {
+  // A limit on the size of files must let a save fail, not end the program with the data in it.
+  std::signal(SIGXFSZ, SIG_IGN);
+  QCoreApplication::setApplicationName(u"Vesk"_s);
+  QCoreApplication::setOrganizationName(u"Vesk"_s);
   QStringList texte;
   for (int i = 1; i < anzahl; ++i) texte.append(QString::fromLocal8Bit(argumente[i]));
   const char trenner = vesk::Dezimaltrenner(QLocale::system());

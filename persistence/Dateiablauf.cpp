@@ -162,17 +162,8 @@ void Dateiablauf::AnderswoMelden() {
 
 /// Otherwise says why not, and what follows from it. `ganz`: one that ends too early is not.
 bool Dateiablauf::Brauchbar(const fs::path& pfad, const std::string& folge, bool ganz) {
-  const std::string name = "Die Datei " + pfad.filename().string();
-  const Gelesen datei = DateiLesen(pfad);
-  if (datei.status == Lesestatus::Fehlt) return Fehler(name + " gibt es nicht.", folge);
-  if (datei.status == Lesestatus::Fehler) {
-    return Fehler(name + " konnte nicht gelesen werden.", datei.grund + "\n" + folge);
-  }
-  Station probe;
-  const Lesebericht bericht = UserDateiLesen(datei.bytes, probe);
-  if (bericht.bekannt && !(bericht.abgebrochen && ganz)) return true;
-  if (bericht.bekannt) return Fehler(name + " ist unvollständig: Sie endet zu früh.", folge);
-  return Fehler(name + (datei.bytes.empty() ? " ist leer." : " enthält keine Daten von Vesk."), folge);
+  const Fehlergrund grund = WarumUnbrauchbar(pfad.filename().string(), DateiLesen(pfad), ganz);
+  return !grund || Fehler(*grund, folge);
 }
 
 // ------------------------------------------------------------------------------------------ other files

@@ -64,6 +64,15 @@ Gelesen DateiLesen(const fs::path& pfad, std::size_t hoechstens) {
   return ergebnis;
 }
 
+Fehlergrund WarumOhneInhalt(const std::string& name, const Gelesen& datei) {
+  if (datei.status == Lesestatus::Fehlt) return "Die Datei " + name + " gibt es nicht.";
+  if (datei.status == Lesestatus::Fehler) {
+    return "Die Datei " + name + " konnte nicht gelesen werden.\n" + datei.grund;
+  }
+  if (datei.bytes.empty()) return "Die Datei " + name + " ist leer.";
+  return std::nullopt;
+}
+
 Fehlergrund DateiSchreiben(const fs::path& pfad, std::string_view bytes) {
   return Versuchen([&] {
     Neufassung neu(pfad);

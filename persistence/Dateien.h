@@ -26,6 +26,9 @@ Gelesen DateiLesen(const std::filesystem::path& pfad, std::size_t hoechstens = M
 /// Nothing, or why it failed.
 using Fehlergrund = std::optional<std::string>;
 
+/// Why the file `name` gives nothing to read.
+Fehlergrund WarumOhneInhalt(const std::string& name, const Gelesen& datei);
+
 /// Puts `bytes` in place of the file: at every instant, also of a crash, the old or the new content stands
 /// there whole, and on return the new one is on the disk. A failure leaves the old file as it was. Keeps
 /// permissions and follows symbolic links.

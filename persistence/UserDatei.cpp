@@ -242,6 +242,15 @@ Lesebericht UserDateiLesen(std::string_view bytes, Station& station) {
   return gang.bericht;
 }
 
+Fehlergrund WarumUnbrauchbar(const std::string& name, const Gelesen& datei, bool ganz) {
+  if (Fehlergrund grund = WarumOhneInhalt(name, datei)) return grund;
+  Station probe;
+  const Lesebericht bericht = UserDateiLesen(datei.bytes, probe);
+  if (!bericht.bekannt) return "Die Datei " + name + " enthält keine Daten von Vesk.";
+  if (bericht.abgebrochen && ganz) return "Die Datei " + name + " ist unvollständig: Sie endet zu früh.";
+  return std::nullopt;
+}
+
 std::string UserDateiSchreiben(const Station& station) {
   Itemschreiber items;
   items.Text("Die Datei wird vom Programm erstellt");

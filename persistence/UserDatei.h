@@ -2,6 +2,7 @@
 #include <string>
 #include <string_view>
 
+#include "persistence/Dateien.h"
 #include "station/Station.h"
 
 /// The user's file: operator, switches, data sheet. Bytes in, values out; no file is touched here.
@@ -28,6 +29,9 @@ struct Lesebericht {
 /// or cannot be read leaves its target as it was; nothing is an error. UserGeaendert and the factors in force
 /// are not touched.
 Lesebericht UserDateiLesen(std::string_view bytes, Station& station);
+
+/// Why the file `name` cannot be used as a user's file; `ganz`: one that ends too early cannot either.
+Fehlergrund WarumUnbrauchbar(const std::string& name, const Gelesen& datei, bool ganz);
 
 /// The file, byte for byte (Windows-1252, CR LF).
 std::string UserDateiSchreiben(const Station& station);

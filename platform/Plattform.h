@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "engine/Hinweise.h"
+#include "platform/Drucker.h"
 
 /// What the windows need of the desktop. Tests put scripted implementations in place of the real ones.
 namespace vesk {
@@ -53,6 +54,22 @@ class Signalton {
   virtual void Piep() = 0;
 };
 
+/// Shows a file with the desktop's program for it.
+class Betrachter {
+ public:
+  virtual ~Betrachter() = default;
+  /// False when there is none.
+  virtual bool Oeffnen(const QString& datei) = 0;
+};
+
+/// Tells how far a long work is; shows itself only when it takes long.
+class Fortschrittsanzeige {
+ public:
+  virtual ~Fortschrittsanzeige() = default;
+  /// For one work that is called `titel`; it is over when the function is gone.
+  virtual Fortschritt Beginnen(const QString& titel) = 0;
+};
+
 /// Everything of the platform that the windows are given, by reference.
 struct Plattform {
   Meldungsboxen& boxen;
@@ -60,6 +77,9 @@ struct Plattform {
   Hilfe& hilfe;
   Benutzerspeicher& speicher;
   Signalton& ton;
+  Drucker& drucker;
+  Betrachter& betrachter;
+  Fortschrittsanzeige& fortschritt;
 };
 
 }  // namespace vesk

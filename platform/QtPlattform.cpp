@@ -2,14 +2,20 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
+#include <QUrl>
 #include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace vesk {
 
@@ -136,6 +142,21 @@ std::optional<QString> QtBenutzerspeicher::Lesen(const QString& abschnitt, const
 
 void QtBenutzerspeicher::Schreiben(const QString& abschnitt, const QString& schluessel, const QString& wert) {
   QSettings().setValue(abschnitt + QLatin1Char('/') + schluessel, wert);
+}
+
+bool QtBetrachter::Oeffnen(const QString& datei) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(datei));
+}
+
+Fortschritt QtFortschrittsanzeige::Beginnen(const QString& titel) {
+  auto anzeige = std::make_shared<QProgressDialog>(titel, u"Abbrechen"_s, 0, 0, QApplication::activeWindow());
+  anzeige->setWindowModality(Qt::ApplicationModal);
+  anzeige->setMinimumDuration(500);  // ms
+  return [anzeige](std::size_t fertig, std::size_t von) {
+    anzeige->setMaximum(static_cast<int>(von));
+    anzeige->setValue(static_cast<int>(fertig));
+    return !anzeige->wasCanceled();
+  };
 }
 
 void QtSignalton::Piep() {

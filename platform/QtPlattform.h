@@ -42,6 +42,16 @@ class QtBenutzerspeicher : public Benutzerspeicher {
   void Schreiben(const QString& abschnitt, const QString& schluessel, const QString& wert) override;
 };
 
+class QtBetrachter : public Betrachter {
+ public:
+  bool Oeffnen(const QString& datei) override;
+};
+
+class QtFortschrittsanzeige : public Fortschrittsanzeige {
+ public:
+  Fortschritt Beginnen(const QString& titel) override;
+};
+
 class QtSignalton : public Signalton {
  public:
   void Piep() override;

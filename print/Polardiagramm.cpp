@@ -16,12 +16,12 @@ namespace {
 
 constexpr int Sektorgrad = 10;
 constexpr QColor Gitterfarbe(0xB0, 0xB0, 0xB0);
+constexpr QColor Papiergitter(0x80, 0x80, 0x80);  // lighter lines break up into dots in print
 
 /// Rings of the scale, `anzahl` of them `schritt` units apart.
 struct Ringe {
   double schritt = 1;
   int anzahl = 1;
-  double Rand() const { return schritt * anzahl; }
 };
 
 /// Steps of 1, 2 or 5 times a power of ten, so that four to ten of them reach `hoechster`.
@@ -49,12 +49,18 @@ class Zeichnung {
   void Ringzahlen();
   void Kurve(const Polarkurve& kurve);
   void Legende(QRectF platz);
+  void Balken(QPointF mitte);
+  /// Thinnest line of the device on a screen, where paper would lose it.
+  QPen Gitterstift() const {
+    return daten_.massstab ? QPen(Papiergitter, zeile_ / 30) : QPen(Gitterfarbe, 0);
+  }
 
   QPainter& maler_;
   const QRectF flaeche_;
   const Polardaten& daten_;
   const double zeile_;  ///< height of a text line
   Ringe ringe_;
+  double randwert_ = 1;  ///< what the rim stands for
   QPointF mitte_;
   double radius_ = 0;
 };
@@ -63,32 +69,42 @@ Zeichnung::Zeichnung(QPainter& maler, const QRectF& flaeche, const Polardaten& d
     : maler_(maler), flaeche_(flaeche), daten_(daten), zeile_(QFontMetricsF(maler.font()).height()) {
   SkalaBestimmen();
   // From top to bottom: title, degrees at the rim, half disc, numbers of the rings, legend.
-  const double oben = 2.8 * zeile_;
+  const double oben = (daten_.titel.isEmpty() ? 1.6 : 2.8) * zeile_;
   const double unten = 2.6 * zeile_;
   const double seite = 2.2 * zeile_;
-  radius_ = std::max(0.0, std::min(flaeche.width() / 2 - seite, flaeche.height() - oben - unten));
+  radius_ = daten.massstab
+                ? daten.massstab->rand
+                : std::max(0.0, std::min(flaeche.width() / 2 - seite, flaeche.height() - oben - unten));
   mitte_ = QPointF(flaeche.center().x(), flaeche.top() + oben + radius_);
 }
 
 void Zeichnung::SkalaBestimmen() {
+  if (daten_.massstab) {
+    constexpr double Rundung = 1e-9;
+    randwert_ = daten_.massstab->rand / daten_.massstab->jeEinheit;
+    ringe_ = RingeBis(randwert_);
+    ringe_.anzahl = static_cast<int>(std::floor(randwert_ / ringe_.schritt + Rundung));
+    return;
+  }
   double hoechster = 0;
   for (const Polarkurve& kurve : daten_.kurven) {
     for (const auto& wert : kurve.werte) hoechster = std::max(hoechster, wert.value_or(0));
   }
   if (daten_.skala == Polarskala::Abstand) {
     ringe_ = RingeBis(hoechster);
-    return;
+  } else {
+    // The centre lies one ring below the weakest sector, so that it is seen to radiate.
+    constexpr double Schritt = 10;
+    constexpr double Mindestens = 3;
+    constexpr double Hoechstens = 10;
+    ringe_ = {Schritt,
+              static_cast<int>(std::clamp(std::floor(hoechster / Schritt) + 1, Mindestens, Hoechstens))};
   }
-  // The centre lies one ring below the weakest sector, so that it is seen to radiate.
-  constexpr double Schritt = 10;
-  constexpr double Mindestens = 3;
-  constexpr double Hoechstens = 10;
-  ringe_ = {Schritt,
-            static_cast<int>(std::clamp(std::floor(hoechster / Schritt) + 1, Mindestens, Hoechstens))};
+  randwert_ = ringe_.schritt * ringe_.anzahl;
 }
 
 double Zeichnung::Radius(double wert) const {
-  const double anteil = std::clamp(wert / ringe_.Rand(), 0.0, 1.0);
+  const double anteil = std::clamp(wert / randwert_, 0.0, 1.0);
   return radius_ * (daten_.skala == Polarskala::Daempfung ? 1 - anteil : anteil);
 }
 
@@ -102,22 +118,29 @@ void Zeichnung::Zeichnen() {
   maler_.setRenderHint(QPainter::Antialiasing);
   maler_.fillRect(flaeche_, Qt::white);
   maler_.setPen(Qt::black);
-  maler_.drawText(QRectF(flaeche_.left(), flaeche_.top(), flaeche_.width(), 1.2 * zeile_), Qt::AlignCenter,
-                  daten_.titel + u" ["_s + daten_.einheit + u']');
+  if (!daten_.titel.isEmpty()) {
+    maler_.drawText(QRectF(flaeche_.left(), flaeche_.top(), flaeche_.width(), 1.2 * zeile_), Qt::AlignCenter,
+                    daten_.titel + u" ["_s + daten_.einheit + u']');
+  }
   if (radius_ > zeile_) {
     Gitter();
     for (const Polarkurve& kurve : daten_.kurven) Kurve(kurve);
     Gradzahlen();
     Ringzahlen();
   }
-  Legende(QRectF(flaeche_.left(), mitte_.y() + 1.2 * zeile_, flaeche_.width(), 1.2 * zeile_));
+  const QRectF unten(flaeche_.left(), mitte_.y() + 1.2 * zeile_, flaeche_.width(), 1.2 * zeile_);
+  if (daten_.massstab) {
+    Balken({mitte_.x(), unten.bottom()});
+  } else {
+    Legende(unten);
+  }
   maler_.restore();
 }
 
 void Zeichnung::Gitter() {
   constexpr int Viertelgrad = 16 * 90;
   maler_.setBrush(Qt::NoBrush);
-  maler_.setPen(QPen(Gitterfarbe, 0));
+  maler_.setPen(Gitterstift());
   for (int i = 0; i <= ringe_.anzahl; ++i) {
     const double r = Radius(i * ringe_.schritt);
     maler_.drawArc(QRectF(mitte_ - QPointF(r, r), mitte_ + QPointF(r, r)), 0, 2 * Viertelgrad);
@@ -126,8 +149,9 @@ void Zeichnung::Gitter() {
 }
 
 void Zeichnung::Gradzahlen() {
+  const int schritt = daten_.massstab ? Sektorgrad : 3 * Sektorgrad;
   maler_.setPen(Qt::black);
-  for (int grad = -90; grad <= 90; grad += 30) {
+  for (int grad = -90; grad <= 90; grad += schritt) {
     QPointF ort = Punkt(grad, radius_ + 0.9 * zeile_);
     if (std::abs(grad) == 90) ort.ry() -= 0.5 * zeile_;  // clear of the numbers of the rings
     const QRectF platz(ort.x() - 2 * zeile_, ort.y() - zeile_, 4 * zeile_, 2 * zeile_);
@@ -142,7 +166,8 @@ void Zeichnung::Ringzahlen() {
   for (int i = 0; i <= ringe_.anzahl; ++i) {
     const int ring = daten_.skala == Polarskala::Abstand ? ringe_.anzahl - i : i;
     const double wert = ring * ringe_.schritt;
-    const QString text = QString::number(wert, 'g', 4);
+    QString text = QString::number(wert);
+    if (daten_.massstab && i == 0) text += u' ' + daten_.einheit;
     const double breite = mass.horizontalAdvance(text) + 0.4 * zeile_;
     const double x = Radius(wert);
     if (x + breite / 2 > frei) continue;
@@ -154,13 +179,14 @@ void Zeichnung::Ringzahlen() {
 
 void Zeichnung::Kurve(const Polarkurve& kurve) {
   // A sector has one value, so the curve is a flight of arcs; a sector without a value leaves a gap.
+  constexpr double Mindestens = 0.01;  // of a line: 0 is a point, not nothing
   QPainterPath pfad;
   bool verbunden = false;
   for (int i = -static_cast<int>(PolarSektoren); i < static_cast<int>(PolarSektoren); ++i) {
     const auto sektor = static_cast<std::size_t>(i < 0 ? -i - 1 : i);
     const std::optional<double>& wert = kurve.werte.at(sektor);
     if (wert) {
-      const double r = Radius(*wert);
+      const double r = std::max(Radius(*wert), Mindestens * zeile_);
       const QPointF anfang = Punkt(i * Sektorgrad, r);
       if (verbunden) {
         pfad.lineTo(anfang);
@@ -168,7 +194,7 @@ void Zeichnung::Kurve(const Polarkurve& kurve) {
         pfad.moveTo(anfang);
       }
       const QRectF kreis(mitte_ - QPointF(r, r), mitte_ + QPointF(r, r));
-      if (r > 0) pfad.arcTo(kreis, 90 - i * Sektorgrad, -Sektorgrad);
+      pfad.arcTo(kreis, 90 - i * Sektorgrad, -Sektorgrad);
     }
     verbunden = wert.has_value();
   }
@@ -204,6 +230,26 @@ void Zeichnung::Legende(QRectF platz) {
     maler_.drawText(QRectF(x, platz.top(), text, platz.height()), Qt::AlignLeft | Qt::AlignVCenter,
                     kurve->name);
     x += text + abstand;
+  }
+}
+
+void Zeichnung::Balken(QPointF mitte) {
+  const QFontMetricsF mass(maler_.font());
+  const int teile = (ringe_.anzahl + 1) / 2;
+  const double hoehe = zeile_ / 3;
+  const double breite = Radius(ringe_.schritt);
+  maler_.setPen(QPen(Qt::black, zeile_ / 30, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  for (int i = 0; i <= teile; ++i) {
+    const double x = mitte.x() + (i - teile / 2.0) * breite;
+    QString text = QString::number(i * ringe_.schritt);
+    if (i == teile) text += u' ' + daten_.einheit;
+    if (i == 0 || i == teile || mass.horizontalAdvance(text) < 0.9 * breite) {
+      const QRectF platz(x - breite / 2, mitte.y() + hoehe, breite, 1.3 * zeile_);
+      maler_.drawText(platz, Qt::AlignCenter | Qt::TextDontClip, text);
+    }
+    if (i == teile) break;
+    maler_.setBrush(i % 2 == 0 ? Qt::black : Qt::white);
+    maler_.drawRect(QRectF(x, mitte.y(), breite, hoehe));
   }
 }
 

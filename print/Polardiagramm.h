@@ -26,11 +26,19 @@ enum class Polarskala {
   Abstand,    ///< 0 in the centre, growing outwards
 };
 
+/// A true scale, for paper.
+struct Polarmassstab {
+  double jeEinheit;  ///< painter units for one unit of the curves
+  double rand;       ///< radius of the picture in painter units; no curve goes beyond it
+};
+
 struct Polardaten {
-  QString titel;
+  QString titel;  ///< may be empty
   QString einheit;
   Polarskala skala = Polarskala::Abstand;
   std::vector<Polarkurve> kurven;  ///< later ones lie on top
+  /// Of distances; a bar scale takes the place of the legend. None: as large as the area allows.
+  std::optional<Polarmassstab> massstab = std::nullopt;
 };
 
 namespace polardiagramm {

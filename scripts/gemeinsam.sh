@@ -5,6 +5,7 @@
 PAKETE_PROGRAMM=(
   g++ cmake ninja-build                # compiler and build
   qt6-base-dev                         # windows, printing; brings the X11 platform plugin
+  libqpdf-dev                          # title, author and bookmarks of the PDFs
   qt6-wayland                          # platform plugin for desktops without X11
   qt6-translations-l10n                # German texts of the toolkit's own dialogs and menus
   fonts-dejavu-core fonts-liberation2  # dialog font; metric-compatible Arial for the printed pages

@@ -25,18 +25,29 @@ void KoeffizientenBestimmen(Kabel& kabel) {
   }
 }
 
+std::optional<std::size_t> Kabelintervall(float f) {
+  if (!(f >= Kabelfrequenz.front() && f <= Kabelfrequenz.back())) return std::nullopt;
+  std::size_t j = 0;
+  while (j + 2 < Kabelfrequenz.size() && f >= Kabelfrequenz[j + 1]) ++j;
+  return j;
+}
+
 float KabelwertErmitteln(const Kabelkatalog& katalog, int auswahl, float f, bool& Pruefergebnis) {
   constexpr float Keiner = -1000;
   if (auswahl >= KabelMax) throw Laufzeitfehler(Fehlerart::Index);
   Pruefergebnis = false;
-  if (auswahl < 0 || !(f >= Kabelfrequenz.front() && f <= Kabelfrequenz.back())) return Keiner;
-  std::size_t j = 0;
-  while (j + 2 < Kabelfrequenz.size() && f >= Kabelfrequenz[j + 1]) ++j;
+  const std::optional<std::size_t> intervall = Kabelintervall(f);
+  if (auswahl < 0 || !intervall) return Keiner;
+  const std::size_t j = *intervall;
   const Kabel& kabel = katalog.kabel[static_cast<std::size_t>(auswahl)];
   // A cable of the catalogue whose values have no logarithm here tells nothing of this frequency.
   if (auswahl < katalog.Kabelanzahl && kabel.Kabelkoeffizient[j] == 0) return Keiner;
   Pruefergebnis = true;
   return AlsSingle(std::exp(double{kabel.Kabelexponent[j]} * Ln(f)) * double{kabel.Kabelkoeffizient[j]});
+}
+
+float Kabelverlust(float d100, float laenge) {
+  return AlsSingle(double{d100} / 100 * double{laenge});
 }
 
 void KabeldaempfungRechnen(const Kabelkatalog& katalog, int auswahl, Kabelfelder& felder) {
@@ -58,7 +69,7 @@ void KabeldaempfungRechnen(const Kabelkatalog& katalog, int auswahl, Kabelfelder
       return;
     }
   }
-  const float daempfung = AlsSingle(double{d100} / 100 * double{laenge});
+  const float daempfung = Kabelverlust(d100, laenge);
   felder.Kabeldaempfung = Formatieren(daempfung);
   felder.Gesamtdaempfung = Formatieren(AlsSingle(double{daempfung} + double{Zahl(felder.Stecker)}));
 }

@@ -42,10 +42,17 @@ struct Kabelkatalog {
 /// Exponents and coefficients from the twelve values. Throws Laufzeitfehler(Gleitkomma) for a value of 0.
 void KoeffizientenBestimmen(Kabel& kabel);
 
+/// The interval of the grid that f (MHz) is in, by its lower end, which belongs to it; 5000 MHz belongs to
+/// the last one. None outside the grid.
+std::optional<std::size_t> Kabelintervall(float f);
+
 /// Loss in dB per 100 m of the list entry `auswahl` at `f` MHz; 0 for an entry without coefficients, -1000
 /// with Pruefergebnis false outside 1 to 5000 MHz or without a selection. Throws Laufzeitfehler(Index) for an
 /// entry beyond the table.
 float KabelwertErmitteln(const Kabelkatalog& katalog, int auswahl, float f, bool& Pruefergebnis);
+
+/// Loss in dB of `laenge` m with `d100` dB per 100 m.
+float Kabelverlust(float d100, float laenge);
 
 enum class D100Farbe { Unveraendert, Weiss, Rot };
 

@@ -30,7 +30,8 @@ Meldungen KabelGleich(Station& s, const Kataloge& k);
 Meldungen KabelfeldGetippt(Station& s, const Kataloge& k, Kabelfeld feld, const std::string& text);
 /// A press of the mouse empties all but connector and total loss.
 Meldungen KabelfeldGeklickt(Station& s, const Kataloge& k, Kabelfeld feld);
-/// Selected entry of the cable list; -1: none.
+/// Entry of the cable list that a record or the options window has selected; -1: none.
+int Kabelindex(const Datenblattspalte& satz, const Kataloge& k);
 int Kabelindex(const Station& s, const Kataloge& k);
 /// The selected entry has no values of its own: the user types its loss per 100 m.
 bool AnderesKabelGewaehlt(const Station& s, const Kataloge& k);

@@ -58,13 +58,17 @@ void FrequenzVersuchen(Station& s, const Kataloge& k, const std::string& text) {
 
 }  // namespace
 
-int Kabelindex(const Station& s, const Kataloge& k) {
-  const std::string& text = s.Datenblattspalten[0].KabelIndex;
+int Kabelindex(const Datenblattspalte& satz, const Kataloge& k) {
+  const std::string& text = satz.KabelIndex;
   int index = -1;
   const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), index);
   const bool gut = fehler == std::errc() && ende == text.data() + text.size() && index >= 0 &&
                    index < static_cast<int>(k.kabel.liste.size());
   return gut ? index : -1;
+}
+
+int Kabelindex(const Station& s, const Kataloge& k) {
+  return Kabelindex(s.Datenblattspalten[0], k);
 }
 
 bool AnderesKabelGewaehlt(const Station& s, const Kataloge& k) {

@@ -136,15 +136,25 @@ Rechenwerte Spaltenwerte(const Station& s, int spalte) {
   return werte;
 }
 
-bool Haelt(const Station& s, int spalte) {
+std::optional<Rechenart> HaltendeArt(const Station& s, int spalte) {
   const Rechenwerte werte = Spaltenwerte(s, spalte);
+  // Without pacemaker distances both directions can hold.
+  const bool rueckwaerts = s.spaltenfarben.at(static_cast<std::size_t>(spalte) - 1).rueckwaerts;
   for (const bool afu : {true, false}) {
     Rechenwerte kopie = werte;
     const Rechenergebnis e = Berechnen(kopie, {.modus = Modus::Abstand, .afu = afu});
     const Feldtexte texte = e.vollstaendig ? Ausgabetexte(e, '.') : Feldtexte();
-    if (HaeltVorwaerts(s, spalte, texte) || HaeltRueckwaerts(s, spalte, werte, afu, texte)) return true;
+    const bool vorwaerts = HaeltVorwaerts(s, spalte, texte);
+    if ((rueckwaerts || !vorwaerts) && HaeltRueckwaerts(s, spalte, werte, afu, texte)) {
+      return Rechenart{.modus = Modus::Leistung, .afu = afu};
+    }
+    if (vorwaerts) return Rechenart{.modus = Modus::Abstand, .afu = afu};
   }
-  return false;
+  return std::nullopt;
+}
+
+bool Haelt(const Station& s, int spalte) {
+  return HaltendeArt(s, spalte).has_value();
 }
 
 bool SpalteVeraltet(const Station& s, int spalte) {

@@ -1,4 +1,6 @@
 #pragma once
+#include <optional>
+
 #include "station/Handlung.h"
 
 /// The columns of the data sheet: what holds, and what the user does with them.
@@ -12,8 +14,11 @@ float SpaltenModulationsfaktor(const Station& s, int spalte);
 /// Product of mode and cycle factor that a column (1 to 7) is calculated with; of column 0 the one in force.
 float Spaltenfaktor(const Station& s, int spalte);
 
-/// A column's figures belong to its inputs: calculating from rows 3 and 5 to 9 and its record, forwards (rows
-/// 10 to 12) or backwards (row 6 from row 10), in either frequency mode, gives them.
+/// The way of calculating that gives a column's figures from its inputs, which are rows 3 and 5 to 9 and its
+/// record: forwards (rows 10 to 12) or backwards (row 6 from row 10), in either frequency mode. None: they
+/// are of other inputs, or there are no figures.
+std::optional<Rechenart> HaltendeArt(const Station& s, int spalte);
+/// A column's figures belong to its inputs.
 bool Haelt(const Station& s, int spalte);
 /// Rows 10 to 12 show figures that do not hold.
 bool SpalteVeraltet(const Station& s, int spalte);

@@ -9,6 +9,7 @@
 #include "engine/Rechenwerte.h"
 #include "station/Datenblattspalte.h"
 #include "station/Kabelkatalog.h"
+#include "station/Papierwahl.h"
 #include "station/Sektoren.h"
 #include "station/Sendeart.h"
 
@@ -141,6 +142,7 @@ struct Fensterlage {
   bool optionen = false;
   bool datenblatt = false;
   bool benutzer = false;
+  bool vorschau = false;
   bool dateimenue = false;  ///< the main window's entries for the data sheet's file can be used
 
   bool operator==(const Fensterlage&) const = default;
@@ -190,6 +192,7 @@ struct Station {
   std::array<Pruefmarke, Benutzerfelder.size()> benutzermarken{};
   std::string klasseEntschieden;  ///< callsign that the class was decided for, or that came with it
   Fensterlage fenster;
+  Papierwahl papiere;
 
   bool UserGeaendert = false;
   bool neuesRufzeichen = false;  ///< the data are a callsign's that has no file yet; the file is another's

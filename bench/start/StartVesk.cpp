@@ -6,7 +6,7 @@
 #include "Gemalt.h"
 #include "app/Programm.h"
 #include "platform/Endesignal.h"
-#include "platform/QtDokumentdrucker.h"
+#include "platform/QtDrucker.h"
 #include "platform/QtPlattform.h"
 #include "ui/basis/Programmbild.h"
 #include "ui/info/Hilfesystem.h"
@@ -29,13 +29,15 @@ int main(int anzahl, char** argumente) {
   vesk::QtDateidialoge dialoge;
   vesk::QtBenutzerspeicher speicher;
   vesk::QtSignalton ton;
-  vesk::QtDokumentdrucker drucker;
+  vesk::QtDrucker drucker;
+  vesk::QtBetrachter betrachter;
+  vesk::QtFortschrittsanzeige fortschritt;
   const vesk::Verzeichnisse verzeichnisse =
       vesk::VerzeichnisseBestimmen(QApplication::arguments().value(1), QApplication::applicationDirPath());
   vesk::MitgelieferteKopieren(verzeichnisse, speicher);
   vesk::Station station;
   vesk::Hilfesystem hilfe(verzeichnisse.daten + "/hilfe"_L1, boxen, drucker);
-  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
+  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton, drucker, betrachter, fortschritt};
   vesk::Programm programm(station, plattform, verzeichnisse);
   ende.Lauschen();
   const Gemalt gemalt(programm.Hauptfenster());

@@ -5,6 +5,7 @@
 #include "ui/info/Hilfesystem.h"
 #include "ui/info/frmHilfe.h"
 #include "ui/options/frmOptions.h"
+#include "ui/preview/frmVorschau.h"
 
 namespace vesk {
 namespace {
@@ -24,10 +25,10 @@ class HilfeImProgramm : public testing::Test {
 
   Verzeichnis verzeichnis;
   skript::Buehne buehne;
-  skript::Drucker drucker;
   Station station;
-  Hilfesystem hilfe{QStringLiteral(VESK_DATEN "/hilfe"), buehne.boxen, drucker};
-  Plattform plattform{buehne.boxen, buehne.dialoge, hilfe, buehne.speicher, buehne.ton};
+  Hilfesystem hilfe{QStringLiteral(VESK_DATEN "/hilfe"), buehne.boxen, buehne.papier};
+  Plattform plattform{buehne.boxen,      buehne.dialoge,    hilfe, buehne.speicher, buehne.ton, buehne.papier,
+                      buehne.betrachter, buehne.fortschritt};
   Programm programm{station, plattform, {verzeichnis.path(), {}}};
 };
 
@@ -37,6 +38,7 @@ TEST_F(HilfeImProgramm, F1OeffnetDenEintragJedesControls) {
   programm.Befehlen(Befehl::InfoZeigen);
   Lauf::Fenster(u"frmInfo"_s).close();
   programm.Benutzerfenster();
+  programm.Vorschau();
   QSet<int> nummern;
   for (QWidget* fenster : QApplication::topLevelWidgets()) {
     if (!fenster->objectName().startsWith(u"frm"_s) || fenster->objectName() == u"frmHilfe") continue;

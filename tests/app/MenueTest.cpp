@@ -4,6 +4,7 @@
 #include "tests/app/Lauf.h"
 #include "ui/datasheet/frmDatenblatt.h"
 #include "ui/options/frmOptions.h"
+#include "ui/preview/frmVorschau.h"
 #include "ui/user/frmUser.h"
 
 namespace vesk {
@@ -24,6 +25,7 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
     Klick(u"cmdCopy"_s);
     programm.Benutzerfenster();
     programm.Datenblatt();
+    programm.Vorschau();
     Finden<QTabWidget>(programm.Optionen(), u"SSTab1"_s).setCurrentIndex(3);
   }
 
@@ -32,7 +34,8 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
     for (const QString& offen : Offene()) {
       if (offen == u"frmTip" || offen == u"frmInfo" || offen == u"frmLstg") Fenster(offen).close();
     }
-    station.fenster = {fenster == u"frmOptions", fenster == u"frmDatenblatt", fenster == u"frmUser", true};
+    station.fenster = {fenster == u"frmOptions", fenster == u"frmDatenblatt", fenster == u"frmUser",
+                       fenster == u"frmVorschau", true};
     station.einstellungen = {.NahfeldHinweisAus = true};
     station.modus = Modus::Abstand;
     station.werte.Spalte = 1;
@@ -48,6 +51,9 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
   QString Wirkung(QAction& aktion) {
     const QStringList vorher = Offene();
     const Station davor = station;
+    const auto& papier = buehne.papier;
+    const auto gedruckt = papier.titelliste.size();
+    const int eingerichtet = papier.eingerichtet;
     aktion.trigger();
     QTest::qWait(1);
     QStringList was;
@@ -69,6 +75,8 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
         {u"Winkel"_s, station.winkel.antenne != davor.winkel.antenne},
         {u"Winkel.ang"_s, station.winkel.dateiGelesen != davor.winkel.dateiGelesen},
         {gleich ? u"gespeichert"_s : u"verworfen"_s, !station.UserGeaendert || !gleich},
+        {u"gedruckt"_s, papier.titelliste.size() > gedruckt},
+        {u"eingerichtet"_s, papier.eingerichtet > eingerichtet},
         {u"Ende"_s, beendet}};
     for (const auto& [name, geschehen] : weiteres) was << (geschehen ? name : QString());
     was.removeAll(QString());
@@ -105,7 +113,8 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
 };
 
 TEST_F(Menuegang, JederEintragJedesFensters) {
-  for (const QString& fenster : {u"frmOptions"_s, u"frmDatenblatt"_s, u"frmUser"_s, u"frmVesk"_s})
+  for (const QString& fenster :
+       {u"frmOptions"_s, u"frmDatenblatt"_s, u"frmUser"_s, u"frmVorschau"_s, u"frmVesk"_s})
     Gehen(fenster);
 }
 

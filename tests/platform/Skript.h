@@ -1,10 +1,12 @@
 #pragma once
+#include <QImage>
 #include <QMap>
+#include <QPainter>
 #include <QPair>
 #include <QStringList>
 #include <QTextDocument>
 
-#include "platform/Dokumentdrucker.h"
+#include "platform/Drucker.h"
 #include "platform/Plattform.h"
 #include "tests/Antworten.h"
 
@@ -53,16 +55,48 @@ class Ton : public Signalton {
   int anzahl = 0;
 };
 
-/// Records what would have gone to paper.
-class Drucker : public Dokumentdrucker {
+/// Paper: records what would have gone there, and comes to the end that the test wants.
+class Papier : public Drucker {
  public:
-  bool Drucken(const QTextDocument& dokument, const QString& titel) override {
+  Druckausgang Einrichten() override { return ++eingerichtet, ausgang; }
+  Druckausgang Drucken(const Druckauftrag& auftrag, const Fortschritt& fortschritt) override {
+    titelliste << auftrag.titel;
+    for (std::size_t i = 0; i < auftrag.seiten.size(); ++i) {
+      if (!fortschritt(i, auftrag.seiten.size())) return Druckausgang::Abgebrochen;
+      QImage bild(210, 210, QImage::Format_RGB32);
+      QPainter maler(&bild);
+      auftrag.malen(i, maler, 1);
+      ++seiten;
+    }
+    return ausgang;
+  }
+  Druckausgang TextDrucken(const QTextDocument& dokument, const QString& titel) override {
     titelliste << titel;
     texte << dokument.toPlainText();
-    return true;
+    return ausgang;
   }
+  Druckausgang ausgang = Druckausgang::Gedruckt;
+  int eingerichtet = 0;
+  int seiten = 0;
   QStringList titelliste;
   QStringList texte;
+};
+
+class Betrachtet : public Betrachter {
+ public:
+  bool Oeffnen(const QString& datei) override {
+    dateien << datei;
+    return true;
+  }
+  QStringList dateien;
+};
+
+class Anzeige : public Fortschrittsanzeige {
+ public:
+  Fortschritt Beginnen(const QString&) override {
+    return [this](std::size_t fertig, std::size_t) { return fertig < abbruchBei; };
+  }
+  std::size_t abbruchBei = 1000;
 };
 
 /// One of each, bundled as the windows take it.
@@ -72,7 +106,10 @@ struct Buehne {
   Hilfeaufrufe hilfe;
   Speicher speicher;
   Ton ton;
-  Plattform plattform{boxen, dialoge, hilfe, speicher, ton};
+  Papier papier;
+  Betrachtet betrachter;
+  Anzeige fortschritt;
+  Plattform plattform{boxen, dialoge, hilfe, speicher, ton, papier, betrachter, fortschritt};
 };
 
 }  // namespace vesk::skript

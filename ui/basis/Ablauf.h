@@ -2,6 +2,7 @@
 #include <functional>
 
 #include "station/Handlung.h"
+#include "station/Papiere.h"
 
 namespace vesk {
 
@@ -25,6 +26,9 @@ enum class Befehl {
   WinkelLaden,
   WinkelSpeichern,
   WinkelSpeichernUnter,
+  PdfSpeichern,
+  PapiereDrucken,
+  DruckerEinrichten,
 };
 
 /// The loop as a window sees it: it tells what the user did and is shown the station afterwards.
@@ -36,6 +40,8 @@ class Ablauf {
   /// The same for a field that is being left: nothing is said before the mouse has been let go.
   virtual void TunBeimVerlassen(const Handlung& handlung) = 0;
   virtual void Befehlen(Befehl befehl) = 0;
+  /// Shows the place that a finding on the papers is about, and puts the cursor there.
+  virtual void Hinzeigen(const Papierort& ort) = 0;
 };
 
 /// An action with its arguments: Mit(EingabeGetippt, feld, text).

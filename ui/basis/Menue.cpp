@@ -13,6 +13,7 @@ void MenueFuellen(QMenu& menue, std::span<const Menueeintrag> eintraege, Ablauf&
     aktion->setCheckable(eintrag.schalter);
     aktion->setSeparator(eintrag.tun == nullptr && eintrag.gesperrt.isEmpty());
     aktion->setEnabled(eintrag.gesperrt.isEmpty());
+    aktion->setShortcut(QKeySequence(eintrag.taste.toString()));
     aktion->setToolTip(eintrag.gesperrt.toString());
     if (eintrag.tun != nullptr) {
       QObject::connect(aktion, &QAction::triggered, &menue, [&ablauf, tun = eintrag.tun] { tun(ablauf); });

@@ -15,6 +15,7 @@ struct Menueeintrag {
   void (*tun)(Ablauf&) = nullptr;
   QStringView gesperrt{};  ///< why the entry cannot be used: its tooltip
   bool schalter = false;   ///< bears a check mark
+  QStringView taste{};     ///< shortcut
 };
 
 /// For the table: an entry that stands for one command, or for one action on the station.

@@ -14,7 +14,9 @@
 #include "engine/Zahlen.h"
 #include "station/Datenblatt.h"
 #include "station/Operator.h"
+#include "station/Papiere.h"
 #include "station/Spalten.h"
+#include "station/Vorschau.h"
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Feldfolge.h"
@@ -29,8 +31,6 @@ namespace vesk {
 
 namespace {
 
-constexpr QStringView SpaeterDrucken = u"Das Drucken kommt mit einer späteren Version.";
-
 constexpr std::array<Menueeintrag, 14> Menue = {{
     {u"mnuDateiLaden", u"Datenblatt &Laden", Befehlend<Befehl::DateiLaden>},
     {u"mnuDateiSpeichern", u"Datenblatt &Speichern", Befehlend<Befehl::DateiSpeichern>},
@@ -40,9 +40,9 @@ constexpr std::array<Menueeintrag, 14> Menue = {{
     {u"mnuNoChange", u"Änderungen &rückgängig machen", Befehlend<Befehl::AenderungenVerwerfen>},
     {u"mnuSpalteKopieren", u"Spalte &kopieren", Tuend<SpalteKopieren>},
     {},
-    {u"mnuFormblattDrucken", u"Formblatt &drucken", nullptr, SpaeterDrucken},
-    {u"mnuFormblattRegTPdrucken", u"Formblatt Reg&TP drucken", nullptr, SpaeterDrucken},
-    {u"mnuDruckerEinrichten", u"Drucker &einrichten", nullptr, SpaeterDrucken},
+    {u"mnuFormblattDrucken", u"Formblatt &drucken", Tuend<FormblattZeigen>},
+    {u"mnuFormblattRegTPdrucken", u"Formblatt Reg&TP drucken", Tuend<FormblattRegTPZeigen>},
+    {u"mnuDruckerEinrichten", u"Drucker &einrichten", Befehlend<Befehl::DruckerEinrichten>},
     {},
     {u"mnuBeenden", u"Datenblatt s&chließen", Tuend<DatenblattSchliessen>},
     {u"mnuEnde", u"Programm &Beenden", Befehlend<Befehl::Beenden>},
@@ -110,6 +110,11 @@ frmDatenblatt::frmDatenblatt(Ablauf& ablauf, Signalton& ton, QWidget* eltern)
 
   HilfenummernSetzen(*this, Hilfenummern);
   txtA[0]->setFocus();
+}
+
+void frmDatenblatt::Hinzeigen(const InZelle& ort) {
+  activateWindow();
+  txtA[Zellenindex(ort.spalte, ort.zeile)]->setFocus(Qt::TabFocusReason);
 }
 
 void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, int spalte, Signalton& ton) {

@@ -15,6 +15,7 @@ class Ablauf;
 class Signalton;
 class Spaltenkopf;
 class Zellenfeld;
+struct InZelle;
 struct Station;
 
 /// The data sheet: seven columns of twelve cells.
@@ -24,6 +25,8 @@ class frmDatenblatt : public QMainWindow {
   frmDatenblatt(Ablauf& ablauf, Signalton& ton, QWidget* eltern = nullptr);
 
   void Zeigen(const Station& station);
+  /// Puts the cursor into a cell.
+  void Hinzeigen(const InZelle& ort);
 
  protected:
   void closeEvent(QCloseEvent* ereignis) override;

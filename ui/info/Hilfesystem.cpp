@@ -23,7 +23,7 @@ void ZuModalemFenster(QWidget& hilfe) {
 
 }  // namespace
 
-Hilfesystem::Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Dokumentdrucker& drucker)
+Hilfesystem::Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Drucker& drucker)
     : buch_(verzeichnis), boxen_(boxen), drucker_(drucker) {}
 
 Hilfesystem::~Hilfesystem() = default;

@@ -6,7 +6,7 @@
 
 namespace vesk {
 
-class Dokumentdrucker;
+class Drucker;
 class frmHilfe;
 
 /// Answers help calls with the program's own help window. Neither the pages nor the window exist before the
@@ -14,7 +14,7 @@ class frmHilfe;
 class Hilfesystem : public Hilfe {
  public:
   /// `verzeichnis`: where the help pages lie.
-  Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Dokumentdrucker& drucker);
+  Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Drucker& drucker);
   ~Hilfesystem() override;
 
   void Aufrufen(const QString& datei, Hilfebefehl befehl, int kontext) override;
@@ -26,7 +26,7 @@ class Hilfesystem : public Hilfe {
 
   Hilfebuch buch_;
   Meldungsboxen& boxen_;
-  Dokumentdrucker& drucker_;
+  Drucker& drucker_;
   std::unique_ptr<frmHilfe> fenster_;
 };
 

@@ -18,7 +18,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "platform/Dokumentdrucker.h"
+#include "platform/Drucker.h"
 #include "platform/Plattform.h"
 #include "ui/info/Hilfebuch.h"
 #include "ui/info/Seitenanzeige.h"
@@ -33,7 +33,7 @@ constexpr int Seitenrolle = Qt::UserRole;
 
 }  // namespace
 
-frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Dokumentdrucker& drucker, QWidget* eltern)
+frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Drucker& drucker, QWidget* eltern)
     : QMainWindow(eltern),
       buch_(buch),
       boxen_(boxen),
@@ -51,6 +51,11 @@ frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Dokumentdrucker& druck
   connect(anzSeite, &QTextBrowser::anchorClicked, this, &frmHilfe::Aufschlagen);
 }
 
+void frmHilfe::Drucken() {
+  const Druckausgang ausgang = drucker_.TextDrucken(*anzSeite->document(), windowTitle());
+  if (const auto meldung = Druckmeldung(ausgang)) boxen_.Zeigen(*meldung);
+}
+
 void frmHilfe::MenuesAufbauen() {
   const auto eintrag = [this](QMenu* menue, const QString& name, const QString& text,
                               const QKeySequence& taste, auto tun) {
@@ -61,8 +66,8 @@ void frmHilfe::MenuesAufbauen() {
     return aktion;
   };
   QMenu* datei = menuBar()->addMenu(u"&Datei"_s);
-  QAction* drucken = eintrag(datei, u"mnuDrucken"_s, u"Seite &drucken …"_s, QKeySequence::Print,
-                             [this] { drucker_.Drucken(*anzSeite->document(), windowTitle()); });
+  QAction* drucken =
+      eintrag(datei, u"mnuDrucken"_s, u"Seite &drucken …"_s, QKeySequence::Print, [this] { Drucken(); });
   datei->addSeparator();
   eintrag(datei, u"mnuSchliessen"_s, u"&Schließen"_s, Qt::Key_Escape, [this] { close(); });
 

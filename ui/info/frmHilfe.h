@@ -11,7 +11,7 @@ class QUrl;
 
 namespace vesk {
 
-class Dokumentdrucker;
+class Drucker;
 class Hilfebuch;
 class Meldungsboxen;
 class Seitenanzeige;
@@ -20,12 +20,13 @@ class Seitenanzeige;
 class frmHilfe : public QMainWindow {
   Q_OBJECT
  public:
-  frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Dokumentdrucker& drucker, QWidget* eltern = nullptr);
+  frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Drucker& drucker, QWidget* eltern = nullptr);
 
   /// Shows a page, with an optional mark "#name"; a box if there is no such page.
   void Zeigen(const QString& seite);
 
  private:
+  void Drucken();
   void MenuesAufbauen();
   void AnsichtAufbauen();
   QWidget* InhaltAufbauen();
@@ -39,7 +40,7 @@ class frmHilfe : public QMainWindow {
 
   Hilfebuch& buch_;
   Meldungsboxen& boxen_;
-  Dokumentdrucker& drucker_;
+  Drucker& drucker_;
   QString suchworte_;  ///< marked in the page while a hit is shown
 
   QTabWidget* tabLinks;

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "station/Haupthandlungen.h"
+#include "station/Vorschau.h"
 #include "ui/basis/Menue.h"
 
 using namespace Qt::StringLiterals;
@@ -35,7 +36,8 @@ constexpr Menueeintrag Optionen[] = {
 constexpr Menueeintrag Antrag[] = {
     {u"mnuUser", u"&Benutzerdaten", Befehlend<Befehl::BenutzerZeigen>},
     {u"mnuDatenblatt", u"&Datenblatt ausfüllen", Befehlend<Befehl::DatenblattZeigen>},
-    {u"mnuAntragDrucken", u"&Antrag drucken", nullptr, u"Das Drucken kommt mit einer späteren Version."},
+    {u"mnuAntragDrucken", u"&Antrag drucken", Tuend<AntragZeigen>},
+    {u"mnuPapiere", u"Alle &Unterlagen (Vorschau, PDF, Drucken)", Tuend<PapiereZeigen>},
 };
 constexpr Menueeintrag Hilfe[] = {
     {u"mnuAnleitung", u"&Hilfe Handbuch", Befehlend<Befehl::Handbuch>},

@@ -71,6 +71,10 @@ QString Rahmentitel(Winkelebene ebene) {
 
 }  // namespace
 
+void WinkelTab::Hinzeigen() {
+  txtWDaempfung[0]->setFocus(Qt::TabFocusReason);
+}
+
 void WinkelTab::Zeigen(const Station& s) {
   const auto& daempfung = s.Datenblattspalten.front().Winkel;
   for (std::size_t i = 0; i < kopf_.size(); ++i) {

@@ -27,6 +27,8 @@ class WinkelTab : public QWidget {
   WinkelTab(Ablauf& ablauf, Signalton& ton);
 
   void Zeigen(const Station& s);
+  /// Puts the cursor into the first attenuation.
+  void Hinzeigen();
 
  private:
   template <typename Feld>

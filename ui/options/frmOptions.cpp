@@ -8,6 +8,7 @@
 #include <QTabWidget>
 
 #include "station/Optionen.h"
+#include "station/Vorschau.h"
 #include "station/Winkel.h"
 #include "ui/basis/Menue.h"
 #include "ui/basis/Rollseite.h"
@@ -23,7 +24,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView Spaeter = u"Das Drucken kommt mit einer späteren Version.";
+template <Winkelkurve kurve>
+void Diagramm(Ablauf& ablauf) {
+  ablauf.Tun(Mit(WinkeldiagrammZeigen, kurve));
+}
 
 constexpr Menueeintrag Dateimenue[] = {
     {u"mnuWinkelLaden", u"Daten &laden", Befehlend<Befehl::WinkelLaden>},
@@ -33,9 +37,9 @@ constexpr Menueeintrag Dateimenue[] = {
     {u"mnuWNoChange", u"Änderungen &Rückgängig machen", nullptr,
      u"Die gespeicherte Tabelle kommt mit \"Daten laden\" zurück."},
     {},
-    {u"mnuWDruck", u"Daten Drucken &ohne HSM", nullptr, Spaeter},
-    {u"mnuWHSM306", u"Daten Drucken HSM &306", nullptr, Spaeter},
-    {u"mnuWHSMvde", u"Daten Drucken HSM &VDE", nullptr, Spaeter},
+    {u"mnuWDruck", u"Daten Drucken &ohne HSM", Diagramm<Winkelkurve::OhneHSM>},
+    {u"mnuWHSM306", u"Daten Drucken HSM &306", Diagramm<Winkelkurve::HSM306>},
+    {u"mnuWHSMvde", u"Daten Drucken HSM &VDE", Diagramm<Winkelkurve::HSMvde>},
     {},
     {u"mnuWinkelBeispiel", u"&Beispiel", Tuend<WinkelBeispiel>},
 };
@@ -48,10 +52,10 @@ frmOptions::frmOptions(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton,
       sendeart_(new SendeartTab(ablauf, ton)),
       kabel_(new KabelTab(ablauf, kataloge, ton)),
       antennen_(new AntennenTab(ablauf, kataloge)),
-      winkel_(new WinkelTab(ablauf, ton)) {
+      winkel_(new WinkelTab(ablauf, ton)),
+      SSTab1(new QTabWidget(this)) {
   setObjectName(u"frmOptions"_s);
   setWindowTitle(u"Optionen"_s);
-  auto* SSTab1 = new QTabWidget(this);
   SSTab1->setObjectName(u"SSTab1"_s);
   SSTab1->addTab(new Rollseite(sendeart_), u"Sendeart"_s);
   SSTab1->addTab(new Rollseite(kabel_), u"Kabel"_s);
@@ -64,6 +68,8 @@ frmOptions::frmOptions(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton,
   QAction* mnuDatei = menue->menuAction();
   mnuDatei->setObjectName(u"mnuDatei"_s);
   mnuDatei->setEnabled(false);
+  mnuWHSM306 = menue->findChild<QAction*>(u"mnuWHSM306"_s);
+  mnuWHSMvde = menue->findChild<QAction*>(u"mnuWHSMvde"_s);
   connect(SSTab1, &QTabWidget::currentChanged, this,
           [=](int reiter) { mnuDatei->setEnabled(reiter == winkelseite); });
   QAction* fenster = menuBar()->addAction(u"&Fenster Schließen"_s);
@@ -84,6 +90,22 @@ void frmOptions::Zeigen(const Station& s) {
   kabel_->Zeigen(s);
   antennen_->Zeigen(s);
   winkel_->Zeigen(s);
+  const auto erlauben = [&](QAction& eintrag, std::optional<float> Sektor::*abstand) {
+    const bool da = s.winkel.ergebnis && !s.winkel.ergebnis->tabelle.sektoren.empty() &&
+                    s.winkel.ergebnis->tabelle.sektoren.front().*abstand;
+    eintrag.setEnabled(da);
+    eintrag.setToolTip(da ? QString()
+                          : u"Die Tabelle hat keine Abstände dafür: noch nicht berechnet, oder kein "
+                            "Grenzwert bei dieser Frequenz."_s);
+  };
+  erlauben(*mnuWHSM306, &Sektor::HSM306);
+  erlauben(*mnuWHSMvde, &Sektor::HSMvde);
+}
+
+void frmOptions::Hinzeigen() {
+  activateWindow();
+  SSTab1->setCurrentIndex(SSTab1->count() - 1);
+  winkel_->Hinzeigen();
 }
 
 void frmOptions::closeEvent(QCloseEvent* ereignis) {

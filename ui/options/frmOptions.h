@@ -2,6 +2,9 @@
 #include <QMainWindow>
 #include <optional>
 
+class QAction;
+class QTabWidget;
+
 namespace vesk {
 
 class Ablauf;
@@ -20,6 +23,8 @@ class frmOptions : public QMainWindow {
   frmOptions(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton, QWidget* eltern = nullptr);
 
   void Zeigen(const Station& s);
+  /// Puts the cursor into the angle table.
+  void Hinzeigen();
 
  protected:
   void closeEvent(QCloseEvent* ereignis) override;
@@ -31,6 +36,9 @@ class frmOptions : public QMainWindow {
   KabelTab* kabel_;
   AntennenTab* antennen_;
   WinkelTab* winkel_;
+  QTabWidget* SSTab1;
+  QAction* mnuWHSM306;
+  QAction* mnuWHSMvde;
 };
 
 }  // namespace vesk

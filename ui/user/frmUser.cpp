@@ -9,6 +9,8 @@
 
 #include "station/Haupthandlungen.h"
 #include "station/Operator.h"
+#include "station/Papiere.h"
+#include "station/Vorschau.h"
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Feldfolge.h"
@@ -61,7 +63,7 @@ constexpr Menueeintrag Menue[] = {
     {u"mnuUserLaden", u"&Laden", Befehlend<Befehl::DateiLaden>},
     {u"mnuUserSpeichern", u"&Speichern", Speichern},
     {u"mnuUserSpeichernUnter", u"Speichern &unter", Befehlend<Befehl::DateiSpeichernUnter>},
-    {u"mnuUserPrint", u"&Drucken", nullptr, u"Drucken kommt mit einer späteren Version."},
+    {u"mnuUserPrint", u"&Drucken", Tuend<BenutzerdatenZeigen>},
     {u"mnuUserDelete", u"Daten l&öschen", Tuend<BenutzerLoeschen>},
     {u"mnuNoChange", u"Änderungen &rückgängig machen", Befehlend<Befehl::AenderungenVerwerfen>},
     {u"mnuUserBeenden", u"S&chließen", Tuend<BenutzerVerbergen>},
@@ -111,6 +113,11 @@ void frmUser::FelderAnlegen(Signalton& ton) {
     felder_[i] = feld;
   }
   raster->setRowStretch(raster->rowCount(), 1);
+}
+
+void frmUser::Hinzeigen(const BeimBenutzer& ort) {
+  activateWindow();
+  felder_.at(ort.feld)->setFocus(Qt::TabFocusReason);
 }
 
 void frmUser::Zeigen(const Station& station) {

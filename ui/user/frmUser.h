@@ -7,6 +7,8 @@
 
 namespace vesk {
 
+struct BeimBenutzer;
+
 class Ablauf;
 class Signalton;
 class Textfeld;
@@ -18,6 +20,8 @@ class frmUser : public QDialog {
   frmUser(Ablauf& ablauf, Signalton& ton, QWidget* eltern = nullptr);
 
   void Zeigen(const Station& station);
+  /// Puts the cursor into a field.
+  void Hinzeigen(const BeimBenutzer& ort);
   void reject() override;
 
  protected:

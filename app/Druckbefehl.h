@@ -1,0 +1,27 @@
+#pragma once
+#include <QStringList>
+#include <stdexcept>
+
+#include "print/Mappe.h"
+
+namespace vesk {
+
+/// What `vesk drucken` was asked for. Names of files are as given.
+struct Druckbefehl {
+  Papierauftrag papiere;  ///< without its date
+  QString datei;
+  QString nach;
+  QString winkeldatei;  ///< empty: none
+  QString verzeichnis;  ///< of the catalogues; empty: the program's own
+  bool hilfe = false;
+};
+
+/// Reads the arguments after "drucken". Throws Eingabefehler.
+Druckbefehl DruckbefehlLesen(const QStringList& argumente);
+
+/// Writes the PDF; what it reads stays as it is. Returns what is wrong with the catalogues, one sentence a
+/// line. Needs no display. Throws std::runtime_error with the German message, and Eingabefehler when the PDF
+/// would take the place of what is read.
+std::string PapiereSchreiben(const Druckbefehl& befehl);
+
+}  // namespace vesk

@@ -1,0 +1,101 @@
+#include "platform/QtDrucker.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QTextDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+/// First and last page to print, counted from 0.
+std::pair<std::size_t, std::size_t> Bereich(const QPrinter& drucker, std::size_t anzahl) {
+  const int ende = static_cast<int>(anzahl);
+  const int von = std::clamp(drucker.fromPage(), 1, ende);
+  const int bis = drucker.toPage() == 0 ? ende : std::clamp(drucker.toPage(), von, ende);
+  return {static_cast<std::size_t>(von - 1), static_cast<std::size_t>(bis - 1)};
+}
+
+}  // namespace
+
+std::optional<Hinweis> Druckmeldung(Druckausgang ausgang) {
+  switch (ausgang) {
+    case Druckausgang::KeinDrucker:
+      return Hinweis{
+          "Drucken",
+          "Es ist kein Drucker eingerichtet.\nSpeichern Sie die Seiten als PDF und drucken Sie sie an "
+          "einem anderen Rechner, oder richten Sie in den Einstellungen Ihres Systems einen Drucker ein."};
+    case Druckausgang::Gescheitert:
+      return Hinweis{"Drucken", "Der Drucker hat den Auftrag nicht angenommen.\nGedruckt ist nichts."};
+    case Druckausgang::Gedruckt:
+    case Druckausgang::Abgebrochen:
+      break;
+  }
+  return std::nullopt;
+}
+
+QtDrucker::QtDrucker() = default;
+QtDrucker::~QtDrucker() = default;
+
+Druckausgang QtDrucker::Waehlen(const QString& titel, const QString& knopf, int seiten) {
+  if (QPrinterInfo::availablePrinterNames().isEmpty()) return Druckausgang::KeinDrucker;
+  if (!drucker_) drucker_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  drucker_->setPageSize(QPageSize(QPageSize::A4));
+  // Pages chosen last time were those of other papers.
+  drucker_->setPrintRange(QPrinter::AllPages);
+  drucker_->setFromTo(0, 0);
+  QPrintDialog dialog(drucker_.get(), QApplication::activeWindow());
+  dialog.setWindowTitle(titel);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, seiten > 1);
+  if (seiten > 1) dialog.setMinMax(1, seiten);
+  for (QDialogButtonBox* kasten : dialog.findChildren<QDialogButtonBox*>()) {
+    if (QPushButton* ja = kasten->button(QDialogButtonBox::Ok)) ja->setText(knopf);
+  }
+  return dialog.exec() == QDialog::Accepted ? Druckausgang::Gedruckt : Druckausgang::Abgebrochen;
+}
+
+Druckausgang QtDrucker::Einrichten() {
+  return Waehlen(u"Drucker einrichten"_s, u"Übernehmen"_s, 1);
+}
+
+Druckausgang QtDrucker::Drucken(const Druckauftrag& auftrag, const Fortschritt& fortschritt) {
+  const Druckausgang wahl = Waehlen(u"Drucken"_s, u"Drucken"_s, static_cast<int>(auftrag.seiten.size()));
+  if (wahl != Druckausgang::Gedruckt) return wahl;
+  drucker_->setDocName(auftrag.titel);
+  drucker_->setFullPage(true);
+  const auto [erste, letzte] = Bereich(*drucker_, auftrag.seiten.size());
+  drucker_->setPageOrientation(auftrag.seiten.at(erste));
+  QPainter maler;
+  if (!maler.begin(drucker_.get())) return Druckausgang::Gescheitert;
+  for (std::size_t seite = erste; seite <= letzte; ++seite) {
+    if (!fortschritt(seite - erste, letzte - erste + 1)) {
+      drucker_->abort();
+      return Druckausgang::Abgebrochen;
+    }
+    if (seite != erste) {
+      drucker_->setPageOrientation(auftrag.seiten.at(seite));
+      if (!drucker_->newPage()) return Druckausgang::Gescheitert;
+    }
+    auftrag.malen(seite, maler, drucker_->resolution() / 25.4);
+  }
+  const bool gut = maler.end() && drucker_->printerState() != QPrinter::Error;
+  return gut ? Druckausgang::Gedruckt : Druckausgang::Gescheitert;
+}
+
+Druckausgang QtDrucker::TextDrucken(const QTextDocument& dokument, const QString& titel) {
+  const Druckausgang wahl = Waehlen(u"Drucken"_s, u"Drucken"_s, 1);
+  if (wahl != Druckausgang::Gedruckt) return wahl;
+  drucker_->setDocName(titel);
+  drucker_->setPageOrientation(QPageLayout::Portrait);
+  dokument.print(drucker_.get());
+  return drucker_->printerState() == QPrinter::Error ? Druckausgang::Gescheitert : Druckausgang::Gedruckt;
+}
+
+}  // namespace vesk

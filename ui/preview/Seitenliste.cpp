@@ -1,0 +1,65 @@
+#include "ui/preview/Seitenliste.h"
+
+#include "ui/preview/Seitenblick.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vesk {
+
+namespace {
+
+constexpr double JeMillimeter = 0.42;  // points of the screen
+constexpr int Textzeilen = 3;          // below a picture
+
+/// The document that a page begins with, or that it belongs to.
+QString Beschriftung(const Mappe& mappe, std::size_t seite) {
+  std::size_t erste = 0;
+  for (const Dokument& dokument : mappe.dokumente) {
+    if (seite < erste + dokument.seiten.size()) return dokument.titel;
+    erste += dokument.seiten.size();
+  }
+  return {};
+}
+
+}  // namespace
+
+Seitenliste::Seitenliste(QWidget* eltern) : QListWidget(eltern) {
+  setObjectName(u"lstSeiten"_s);
+  setAccessibleName(u"Seiten"_s);
+  setViewMode(QListView::IconMode);
+  setFlow(QListView::TopToBottom);
+  setWrapping(false);
+  setMovement(QListView::Static);
+  setWordWrap(true);
+  setSpacing(4);
+  const QSizeF blatt = Blattgroesse(Blattformat::Quer) * JeMillimeter;
+  setIconSize({static_cast<int>(blatt.width()), static_cast<int>(blatt.width())});
+  setFixedWidth(iconSize().width() + 50);
+  takt_.setInterval(0);
+  connect(&takt_, &QTimer::timeout, this, &Seitenliste::NaechsteMalen);
+}
+
+void Seitenliste::Zeigen(const Mappe& mappe) {
+  mappe_ = &mappe;
+  const int zahl = static_cast<int>(Seitenzahl(mappe));
+  while (count() > zahl) delete takeItem(count() - 1);
+  for (int i = 0; i < zahl; ++i) {
+    const QString text = u"%1 · %2"_s.arg(i + 1).arg(Beschriftung(mappe, static_cast<std::size_t>(i)));
+    if (i == count()) addItem(text);
+    item(i)->setText(text);
+    const double hoehe =
+        Blattgroesse(Seitenformat(mappe, static_cast<std::size_t>(i))).height() * JeMillimeter;
+    item(i)->setSizeHint({width() - 30, static_cast<int>(hoehe) + Textzeilen * fontMetrics().lineSpacing()});
+  }
+  naechste_ = 0;
+  takt_.start();
+}
+
+void Seitenliste::NaechsteMalen() {
+  if (naechste_ >= count()) return takt_.stop();
+  const QImage bild =
+      Seitenbild(*mappe_, static_cast<std::size_t>(naechste_), JeMillimeter, devicePixelRatioF());
+  item(naechste_++)->setIcon(QPixmap::fromImage(bild));
+}
+
+}  // namespace vesk
