@@ -1,12 +1,19 @@
 // What the user asks of the program beyond the station.
+#include "app/Desktoplage.h"
 #include "app/Papierablauf.h"
+#include "app/Pfadtext.h"
 #include "app/Programm.h"
 #include "persistence/Dateien.h"
+#include "persistence/Katalogdateien.h"
 #include "persistence/Tips.h"
 #include "persistence/Winkelablauf.h"
 #include "platform/Plattform.h"
 #include "print/Mappe.h"
+#include "station/Baender.h"
+#include "station/Diagramme.h"
 #include "station/Haupthandlungen.h"
+#include "ui/bands/frmBaender.h"
+#include "ui/charts/frmDiagramme.h"
 #include "ui/datasheet/frmDatenblatt.h"
 #include "ui/info/frmInfo.h"
 #include "ui/info/frmTip.h"
@@ -46,6 +53,10 @@ void Programm::Befehlen(Befehl befehl) {
       return datei([this] { dateien_.AenderungenVerwerfen(); });
     case Befehl::UserNeu:
       return datei([this] { dateien_.UserNeu(); });
+    case Befehl::Rueckgaengig:
+      return Zuruecknehmen(&Verlauf::Zurueck);
+    case Befehl::Wiederholen:
+      return Zuruecknehmen(&Verlauf::Vor);
     case Befehl::BenutzerVerborgen:
       return datei([this] { dateien_.BenutzerVerborgen(); });
     case Befehl::WinkelLaden:
@@ -72,6 +83,12 @@ void Programm::Befehlen(Befehl befehl) {
       return Tun(BenutzerOeffnen);
     case Befehl::LeistungsumrechnungZeigen:
       return Oeffnen(Leistungsumrechnung());
+    case Befehl::BaenderZeigen:
+      Tun(BaenderOeffnen);
+      return Baender().activateWindow();
+    case Befehl::DiagrammeZeigen:
+      Tun(DiagrammeOeffnen);
+      return Diagramme().activateWindow();
     case Befehl::TipZeigen:
       return TipZeigen();
     case Befehl::InfoZeigen:
@@ -81,6 +98,54 @@ void Programm::Befehlen(Befehl befehl) {
     case Befehl::HilfeBenutzen:
       return plattform_.hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::HilfeBenutzen, 0);
   }
+}
+
+void Programm::DateiOeffnen(const QString& name) {
+  if (beendet_ || inHandlung_) return;
+  const std::filesystem::path pfad = AlsPfad(name);
+  const auto oeffnen = [this](const auto& tun) {
+    Tun([&](Station&, const Kataloge&) {
+      tun();
+      return Meldungen{};
+    });
+  };
+  if (pfad.extension() == ".ang") {
+    bool offen = false;
+    oeffnen([&] { offen = WinkelOeffnen(station_, *this, pfad); });
+    if (!offen) return;
+    Befehlen(Befehl::OptionenZeigen);
+    return Optionen().Hinzeigen();
+  }
+  if (!IstKatalog(pfad)) return oeffnen([&] { dateien_.UserLaden(pfad); });
+  bool neu = false;
+  oeffnen([&] { neu = KatalogErsetzen(pfad, PfadAusUtf8(station_.ProgrammVerzeichnis), *this); });
+  if (neu) KatalogeErneuern();
+}
+
+void Programm::KatalogeErneuern() {
+  Meldungen meldungen;
+  kataloge_ = KatalogeLesen(PfadAusUtf8(station_.ProgrammVerzeichnis), meldungen);
+  // Its lists are those of the former catalogues.
+  optionen_.reset();
+  baender_.reset();
+  diagramme_.reset();
+  station_.schaubilder.kabel.reset();
+  station_.AntennenIndex = -1;
+  station_.antenneNehmbar = false;
+  Zeigen();
+  Sagen(meldungen);
+}
+
+void Programm::DateiMerken() {
+  if (station_.neuesRufzeichen) return;
+  const std::string pfad =
+      PfadAlsUtf8(PfadAusUtf8(station_.Arbeitsverzeichnis) / PfadAusUtf8(station_.UserDatei));
+  std::vector<std::string>& liste = station_.zuletztBenutzt;
+  if (!liste.empty() && liste.front() == pfad) return;
+  std::erase(liste, pfad);
+  liste.insert(liste.begin(), pfad);
+  if (liste.size() > MaxZuletzt) liste.resize(MaxZuletzt);
+  ZuletztMerken(liste, plattform_.speicher);
 }
 
 Mappe Programm::Papiere() const {
@@ -96,7 +161,7 @@ void Programm::Hinzeigen(const Papierort& ort) {
 
 void Programm::TipZeigen() {
   if (!tip_) {
-    const Gelesen datei = DateiLesen(std::filesystem::path(station_.ProgrammVerzeichnis) / "TIPOFDAY.TXT");
+    const Gelesen datei = DateiLesen(PfadAusUtf8(station_.ProgrammVerzeichnis) / "TIPOFDAY.TXT");
     tip_ = std::make_unique<frmTip>(plattform_.speicher, TipsLesen(datei.bytes), &hauptfenster_);
   }
   Oeffnen(*tip_);

@@ -1,7 +1,5 @@
 #include "app/Druckbefehl.h"
 
-#include <QCommandLineParser>
-#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHashFunctions>
@@ -10,7 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "app/Rechenauftrag.h"
+#include "app/Pfadtext.h"
 #include "app/Verzeichnisse.h"
 #include "engine/Zahlen.h"
 #include "persistence/Katalogdateien.h"
@@ -30,33 +28,31 @@ namespace fs = std::filesystem;
 namespace {
 
 /// By the order of Papierart resp. Winkelkurve.
-constexpr std::array Arten = {u"mappe",    u"antrag", u"datenblatt", u"regtp",
-                              u"benutzer", u"winkel", u"rechenweg"};
-constexpr std::array Kurven = {u"ohne", u"306", u"vde"};
+constexpr std::array Arten = {"mappe",    "antrag", "datenblatt", "regtp",
+                              "benutzer", "winkel", "rechenweg",  "diagramme"};
+constexpr std::array Kurven = {"ohne", "306", "vde"};
 
 template <typename Wahl, std::size_t anzahl>
-Wahl Gewaehlt(QStringView option, const QString& text, const std::array<const char16_t*, anzahl>& namen) {
-  QStringList moeglich;
-  for (const char16_t* name : namen) moeglich.append(QString::fromUtf16(name));
-  const auto stelle = moeglich.indexOf(text.toLower());
-  if (stelle >= 0) return static_cast<Wahl>(stelle);
-  throw Eingabefehler(u"--%1: möglich sind %2."_s.arg(option, moeglich.join(u", ")));
+Wahl Gewaehlt(const std::string& option, const std::string& text,
+              const std::array<const char*, anzahl>& namen) {
+  const std::string klein = Kleinbuchstaben(text);
+  const auto stelle = std::find(namen.begin(), namen.end(), klein);
+  if (stelle != namen.end()) return static_cast<Wahl>(stelle - namen.begin());
+  std::string moeglich;
+  for (const char* name : namen) moeglich += (moeglich.empty() ? "" : ", ") + std::string(name);
+  throw Eingabefehler("--" + option + ": möglich sind " + moeglich + ".");
 }
 
-double Massstabszahl(const QString& text) {
+double Massstabszahl(const std::string& text) {
   static const QRegularExpression muster(QRegularExpression::anchoredPattern(u"(?:1:)?(\\d{1,6})"_s));
-  const int n = muster.match(text).captured(1).toInt();
+  const int n = muster.match(QString::fromStdString(text)).captured(1).toInt();
   if (n >= 1 && n <= 100000) return n;
-  throw Eingabefehler(u"--massstab: „%1“ ist kein Maßstab von 1:1 bis 1:100000."_s.arg(text.left(40)));
-}
-
-fs::path AlsPfad(const QString& name) {
-  return QFile::encodeName(name).toStdString();
+  throw Eingabefehler("--massstab: „" + Gekuerzt(text) + "“ ist kein Maßstab von 1:1 bis 1:100000.");
 }
 
 /// The user's file as it is, whatever version wrote it: nothing is converted on the disk.
 Station StationLesen(const fs::path& pfad, const Kataloge& kataloge) {
-  const std::string name = pfad.filename().string();
+  const std::string name = PfadAlsUtf8(pfad.filename());
   const Gelesen datei = DateiLesen(pfad);
   if (const Fehlergrund grund = WarumUnbrauchbar(name, datei, true)) throw std::runtime_error(*grund);
   Station s;
@@ -68,15 +64,15 @@ Station StationLesen(const fs::path& pfad, const Kataloge& kataloge) {
   }
   s.benutzer.Klasse = Grossbuchstaben(s.benutzer.Klasse);
   s.UserDatei = name;
-  s.UserVerzeichnis = fs::absolute(pfad).parent_path().string();
+  s.UserVerzeichnis = PfadZumZeigen(fs::absolute(pfad).parent_path());
   return s;
 }
 
 /// The angle page shows the file's table, with the power of a column.
 void WinkelseiteLesen(const fs::path& pfad, Station& s) {
-  const std::string name = "Die Datei " + pfad.filename().string();
+  const std::string name = "Die Datei " + PfadAlsUtf8(pfad.filename());
   const Gelesen datei = DateiLesen(pfad);
-  if (const Fehlergrund grund = WarumOhneInhalt(pfad.filename().string(), datei))
+  if (const Fehlergrund grund = WarumOhneInhalt(PfadAlsUtf8(pfad.filename()), datei))
     throw std::runtime_error(*grund);
   const GeleseneWinkeldaten daten = WinkelLesen(datei.bytes);
   const std::string frequenz = daten.frequenz.value_or("");
@@ -88,7 +84,7 @@ void WinkelseiteLesen(const fs::path& pfad, Station& s) {
   s.winkel.antenne = daten.antenne.value_or("");
   s.winkel.gewinn = *daten.gewinn;
   s.winkel.frequenz = frequenz;
-  s.winkel.datei = pfad.string();
+  s.winkel.datei = PfadAlsUtf8(pfad);
   if (!WinkelseiteAusSpalte(s)) {
     throw std::runtime_error("Das Datenblatt hat keine Spalte für die Frequenz der Winkeldatei (" + frequenz +
                              " MHz), aus der die Leistung des Winkeldiagramms hervorgeht.");
@@ -112,8 +108,7 @@ void ZielPruefen(const fs::path& nach, std::initializer_list<fs::path> gelesene)
   for (const fs::path& datei : gelesene) {
     std::error_code keineAntwort;
     if (!fs::equivalent(nach, datei, keineAntwort)) continue;
-    throw Eingabefehler(u"--nach: Das PDF würde „%1“ überschreiben."_s.arg(
-        QString::fromStdString(datei.filename().string())));
+    throw Eingabefehler("--nach: Das PDF würde „" + PfadAlsUtf8(datei.filename()) + "“ überschreiben.");
   }
 }
 
@@ -156,30 +151,30 @@ const char* WarumKeineSeite(const Station& s) {
 
 }  // namespace
 
-Druckbefehl DruckbefehlLesen(const QStringList& argumente) {
-  QCommandLineParser leser;
-  OptionenLesen(
-      leser, {u"art"_s, u"datei"_s, u"nach"_s, u"winkeldatei"_s, u"hsm"_s, u"massstab"_s, u"verzeichnis"_s},
-      {}, argumente);
+Druckbefehl DruckbefehlLesen(std::span<const std::string> argumente) {
+  constexpr Option Erlaubt[] = {{"art"}, {"datei"},    {"nach"},       {"winkeldatei"},
+                                {"hsm"}, {"massstab"}, {"verzeichnis"}};
+  const Optionen optionen = OptionenLesen(Erlaubt, argumente);
   Druckbefehl befehl;
-  befehl.hilfe = leser.isSet(u"help"_s);
+  befehl.hilfe = optionen.contains("help");
   if (befehl.hilfe) return befehl;
-  for (const QString& noetig : {u"art"_s, u"datei"_s, u"nach"_s}) {
-    if (!leser.isSet(noetig)) throw Eingabefehler(u"Die Angabe --%1 fehlt."_s.arg(noetig));
+  for (const char* noetig : {"art", "datei", "nach"}) {
+    if (!optionen.contains(noetig)) throw Eingabefehler("Die Angabe --" + std::string(noetig) + " fehlt.");
   }
-  befehl.papiere.art = Gewaehlt<Papierart>(u"art", leser.value(u"art"_s), Arten);
+  befehl.papiere.art = Gewaehlt<Papierart>("art", Wert(optionen, "art"), Arten);
   const bool winkel = befehl.papiere.art == Papierart::Winkel || befehl.papiere.art == Papierart::Mappe;
-  for (const QString& option : {u"hsm"_s, u"massstab"_s, u"winkeldatei"_s}) {
-    if (winkel || !leser.isSet(option)) continue;
-    throw Eingabefehler(u"--%1 gilt nur für --art winkel und --art mappe."_s.arg(option));
+  for (const char* option : {"hsm", "massstab", "winkeldatei"}) {
+    if (winkel || !optionen.contains(option)) continue;
+    throw Eingabefehler("--" + std::string(option) + " gilt nur für --art winkel und --art mappe.");
   }
-  if (leser.isSet(u"hsm"_s))
-    befehl.papiere.kurve = Gewaehlt<Winkelkurve>(u"hsm", leser.value(u"hsm"_s), Kurven);
-  if (leser.isSet(u"massstab"_s)) befehl.papiere.massstab = Massstabszahl(leser.value(u"massstab"_s));
-  befehl.datei = leser.value(u"datei"_s);
-  befehl.nach = leser.value(u"nach"_s);
-  befehl.winkeldatei = leser.value(u"winkeldatei"_s);
-  befehl.verzeichnis = leser.value(u"verzeichnis"_s);
+  if (optionen.contains("hsm"))
+    befehl.papiere.kurve = Gewaehlt<Winkelkurve>("hsm", Wert(optionen, "hsm"), Kurven);
+  if (optionen.contains("massstab")) befehl.papiere.massstab = Massstabszahl(Wert(optionen, "massstab"));
+  const auto text = [&](const char* option) { return QString::fromStdString(Wert(optionen, option)); };
+  befehl.datei = text("datei");
+  befehl.nach = text("nach");
+  befehl.winkeldatei = text("winkeldatei");
+  befehl.verzeichnis = text("verzeichnis");
   return befehl;
 }
 
@@ -200,7 +195,8 @@ std::string PapiereSchreiben(const Druckbefehl& befehl) {
   const Mappe mappe = MappeBilden(s, kataloge, auftrag);
   if (Seitenzahl(mappe) == 0) throw std::runtime_error(WarumKeineSeite(s));
   if (const Fehlergrund grund = DateiSchreiben(nach, Pdf(mappe, zeit).toStdString())) {
-    throw std::runtime_error("Die Datei " + nach.string() + " konnte nicht geschrieben werden.\n" + *grund);
+    throw std::runtime_error("Die Datei " + PfadZumZeigen(nach) + " konnte nicht geschrieben werden.\n" +
+                             *grund);
   }
   std::string maengel;
   for (const Meldung& meldung : meldungen) maengel += meldung.hinweis.text + '\n';

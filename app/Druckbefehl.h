@@ -1,8 +1,10 @@
 #pragma once
-#include <QStringList>
-#include <stdexcept>
+#include <QString>
+#include <span>
+#include <string>
 
 #include "print/Mappe.h"
+#include "rechnen/Optionen.h"
 
 namespace vesk {
 
@@ -17,7 +19,7 @@ struct Druckbefehl {
 };
 
 /// Reads the arguments after "drucken". Throws Eingabefehler.
-Druckbefehl DruckbefehlLesen(const QStringList& argumente);
+Druckbefehl DruckbefehlLesen(std::span<const std::string> argumente);
 
 /// Writes the PDF; what it reads stays as it is. Returns what is wrong with the catalogues, one sentence a
 /// line. Needs no display. Throws std::runtime_error with the German message, and Eingabefehler when the PDF

@@ -1,11 +1,11 @@
 #include "app/Papierablauf.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <stdexcept>
 
+#include "app/Pfadtext.h"
 #include "persistence/Dateien.h"
 #include "platform/Plattform.h"
 #include "print/Pdf.h"
@@ -49,16 +49,17 @@ void PdfSpeichern(const Mappe& mappe, Plattform& plattform) {
     plattform.boxen.Zeigen(Fehlermeldung(grund.what()));
   }
   if (pdf.isEmpty()) return;
-  const std::string name = ziel->toStdString();
-  if (const Fehlergrund grund = DateiSchreiben(QFile::encodeName(*ziel).toStdString(), pdf.toStdString())) {
+  const std::string name = PfadZumZeigen(AlsPfad(*ziel));
+  if (const Fehlergrund grund = DateiSchreiben(AlsPfad(*ziel), pdf.toStdString())) {
     plattform.boxen.Zeigen(
         Fehlermeldung("Die Datei " + name + " konnte nicht gespeichert werden.\n" + *grund));
     return;
   }
   plattform.speicher.Schreiben(abschnitt, schluessel, QFileInfo(*ziel).absolutePath());
   const Antwort antwort = plattform.boxen.Zeigen(
-      {"PDF speichern", "Gespeichert:\n" + name + "\n\nMöchten Sie die Datei jetzt ansehen?", Knoepfe::JaNein,
-       Symbol::Frage});
+      MitHilfe({"PDF speichern", "Gespeichert:\n" + name + "\n\nMöchten Sie die Datei jetzt ansehen?",
+                Knoepfe::JaNein, Symbol::Frage},
+               HilfePapiere));
   if (antwort == Antwort::Ja && !plattform.betrachter.Oeffnen(*ziel)) {
     plattform.boxen.Zeigen(Fehlermeldung("Ihr System hat kein Programm, das PDF-Dateien zeigt."));
   }

@@ -1,12 +1,13 @@
 #include "app/Programm.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
 
+#include "app/Desktoplage.h"
+#include "app/Pfadtext.h"
 #include "engine/Laufzeitfehler.h"
 #include "persistence/Dateien.h"
 #include "persistence/Katalogdateien.h"
@@ -15,7 +16,9 @@
 #include "platform/Plattform.h"
 #include "station/Haupthandlungen.h"
 #include "station/Optionen.h"
+#include "ui/bands/frmBaender.h"
 #include "ui/basis/Dezimaltrenner.h"
+#include "ui/charts/frmDiagramme.h"
 #include "ui/datasheet/frmDatenblatt.h"
 #include "ui/info/frmInfo.h"
 #include "ui/info/frmTip.h"
@@ -34,13 +37,9 @@ namespace {
 
 constexpr int Wartezeit = 80;  // ms
 
-QString AlsText(const fs::path& pfad) {
-  return QFile::decodeName(pfad.c_str());
-}
-
-std::optional<fs::path> AlsPfad(const std::optional<QString>& pfad) {
+std::optional<fs::path> Gewaehlt(const std::optional<QString>& pfad) {
   if (!pfad) return std::nullopt;
-  return fs::path(QFile::encodeName(*pfad).toStdString());
+  return AlsPfad(*pfad);
 }
 
 Dialogwahl AlsDialog(const Dateiwahl& wahl) {
@@ -50,9 +49,11 @@ Dialogwahl AlsDialog(const Dateiwahl& wahl) {
 }
 
 template <typename Fenster, typename... Werte>
-Fenster& Angelegt(std::unique_ptr<Fenster>& fenster, const Station& station, Werte&&... werte) {
+Fenster& Angelegt(std::unique_ptr<Fenster>& fenster, Benutzerspeicher& speicher, const Station& station,
+                  Werte&&... werte) {
   if (!fenster) {
     fenster = std::make_unique<Fenster>(std::forward<Werte>(werte)...);
+    LageHolen(*fenster, speicher);
     fenster->Zeigen(station);
   }
   return *fenster;
@@ -63,11 +64,16 @@ Fenster& Angelegt(std::unique_ptr<Fenster>& fenster, const Station& station, Wer
 Programm::Programm(Station& station, Plattform& plattform, const Verzeichnisse& verzeichnisse)
     : station_(station),
       plattform_(plattform),
-      kataloge_(KatalogeLesen(*AlsPfad(verzeichnisse.programm), startmeldungen_)),
-      hauptfenster_(*this, plattform.ton),
+      kataloge_(KatalogeLesen(AlsPfad(verzeichnisse.programm), startmeldungen_)),
+      hauptfenster_(*this, kataloge_, plattform.ton),
       dateien_(station_, kataloge_, *this),
-      hilfetaste_(plattform.hilfe) {
-  qApp->installEventFilter(&hilfetaste_);
+      hilfetaste_(plattform.hilfe),
+      tastenwege_(*this),
+      abwurf_(*this) {
+  for (QObject* filter : {static_cast<QObject*>(&hilfetaste_), static_cast<QObject*>(&tastenwege_),
+                          static_cast<QObject*>(&abwurf_)}) {
+    qApp->installEventFilter(filter);
+  }
   station_.ProgrammVerzeichnis = verzeichnisse.programm.toStdString();
   station_.winkel.datei = station_.ProgrammVerzeichnis + "/Winkel.ang";
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Programm::HauptfensterAktiviert);
@@ -80,11 +86,14 @@ Programm::~Programm() {
 
 void Programm::Starten() {
   OptionenVorbelegen(station_, kataloge_);
+  station_.zuletztBenutzt = ZuletztBenutzt(plattform_.speicher);
   dateien_.InitLaden();
   dateien_.RettungAnbieten();
   const bool alle = station_.einstellungen.Fenster;
   station_.fenster.optionen = station_.fenster.datenblatt = station_.fenster.dateimenue = alle;
+  DateiMerken();
   hauptfenster_.Zeigen(station_);
+  LageHolen(hauptfenster_, plattform_.speicher);
   hauptfenster_.show();
   Zeigen();
   Sagen(std::exchange(startmeldungen_, {}));
@@ -111,48 +120,85 @@ void Programm::Starten() {
 }
 
 frmOptions& Programm::Optionen() {
-  return Angelegt(optionen_, station_, *this, kataloge_, plattform_.ton);
+  return Angelegt(optionen_, plattform_.speicher, station_, *this, kataloge_, plattform_.ton);
 }
 
 frmDatenblatt& Programm::Datenblatt() {
-  return Angelegt(datenblatt_, station_, *this, plattform_.ton);
+  return Angelegt(datenblatt_, plattform_.speicher, station_, *this, plattform_.ton);
 }
 
 frmUser& Programm::Benutzerfenster() {
-  return Angelegt(benutzer_, station_, *this, plattform_.ton, &hauptfenster_);
+  return Angelegt(benutzer_, plattform_.speicher, station_, *this, plattform_.ton, &hauptfenster_);
 }
 
 frmVorschau& Programm::Vorschau() {
-  return Angelegt(vorschau_, station_, *this, kataloge_);
+  return Angelegt(vorschau_, plattform_.speicher, station_, *this, kataloge_);
+}
+
+frmBaender& Programm::Baender() {
+  return Angelegt(baender_, plattform_.speicher, station_, *this, kataloge_);
+}
+
+frmDiagramme& Programm::Diagramme() {
+  return Angelegt(diagramme_, plattform_.speicher, station_, *this, kataloge_);
 }
 
 frmLstg& Programm::Leistungsumrechnung() {
-  return Angelegt(leistung_, station_, *this, plattform_.ton, Dezimaltrenner(), &hauptfenster_);
+  return Angelegt(leistung_, plattform_.speicher, station_, *this, plattform_.ton, Dezimaltrenner(),
+                  &hauptfenster_);
 }
 
-Meldungen Programm::Ausfuehren(const Handlung& handlung) {
-  const auto vorher = station_.ergebnis;
+Meldungen Programm::Ausfuehren(const Handlung& handlung, const Merken& merken) {
+  // What happens while a box of an action is open belongs to that action.
+  const bool aussen = !std::exchange(inHandlung_, true);
+  const Station vorher = station_;
   Meldungen meldungen = vesk::Ausfuehren(handlung, station_, kataloge_);
   const auto zurRechnung = [](const Meldung& meldung) { return meldung.zurRechnung; };
-  if (station_.ergebnis != vorher || std::any_of(meldungen.begin(), meldungen.end(), zurRechnung)) {
+  if (station_.ergebnis != vorher.ergebnis || std::any_of(meldungen.begin(), meldungen.end(), zurRechnung)) {
     std::erase_if(aufgeschoben_, zurRechnung);
+  }
+  if (aussen) {
+    inHandlung_ = false;
+    merken(vorher);
+    DateiMerken();
   }
   return meldungen;
 }
 
 void Programm::Tun(const Handlung& handlung) {
   if (beendet_) return;
-  Meldungen meldungen = Ausfuehren(handlung);
+  Meldungen meldungen =
+      Ausfuehren(handlung, [this](const Station& vorher) { verlauf_.Merken(vorher, station_); });
+  Zeigen();
+  Sagen(meldungen);
+}
+
+void Programm::TunBeimTippen(const QObject& feld, const Handlung& handlung) {
+  if (beendet_) return;
+  Meldungen meldungen =
+      Ausfuehren(handlung, [&](const Station& vorher) { verlauf_.Merken(vorher, station_, &feld); });
   Zeigen();
   Sagen(meldungen);
 }
 
 void Programm::TunBeimVerlassen(const Handlung& handlung) {
   if (beendet_) return;
-  Anhaengen(aufgeschoben_, Ausfuehren(handlung));
+  Anhaengen(aufgeschoben_, Ausfuehren(handlung, [this](const Station& vorher) {
+              verlauf_.MerkenBeimVerlassen(vorher, station_);
+            }));
   Zeigen();
   // The press that has taken the focus to another window comes later than the focus.
   if (!aufgeschoben_.empty()) QTimer::singleShot(Wartezeit, this, &Programm::AufgeschobenesSagen);
+}
+
+void Programm::Zuruecknehmen(bool (Verlauf::*weg)(Station&)) {
+  if (inHandlung_) return;
+  if ((verlauf_.*weg)(station_)) {
+    aufgeschoben_.clear();
+    Zeigen();
+  } else {
+    plattform_.ton.Piep();
+  }
 }
 
 void Programm::AufgeschobenesSagen() {
@@ -165,6 +211,7 @@ void Programm::AufgeschobenesSagen() {
 
 void Programm::Zeigen() {
   hauptfenster_.Zeigen(station_);
+  hauptfenster_.VerlaufZeigen(verlauf_.ZurueckMoeglich(), verlauf_.VorMoeglich());
   const auto zeigen = [this](auto& fenster, bool offen, auto anlegen) {
     if (!fenster && !offen) return;
     (this->*anlegen)();
@@ -175,6 +222,8 @@ void Programm::Zeigen() {
   zeigen(datenblatt_, station_.fenster.datenblatt, &Programm::Datenblatt);
   zeigen(benutzer_, station_.fenster.benutzer, &Programm::Benutzerfenster);
   zeigen(vorschau_, station_.fenster.vorschau, &Programm::Vorschau);
+  zeigen(baender_, station_.fenster.baender, &Programm::Baender);
+  zeigen(diagramme_, station_.fenster.diagramme, &Programm::Diagramme);
   if (leistung_) leistung_->Zeigen(station_);
 }
 
@@ -203,11 +252,11 @@ Antwort Programm::Fragen(const Hinweis& hinweis) {
 }
 
 std::optional<fs::path> Programm::ZumOeffnen(const Dateiwahl& wahl) {
-  return AlsPfad(plattform_.dialoge.Oeffnen(AlsDialog(wahl)));
+  return Gewaehlt(plattform_.dialoge.Oeffnen(AlsDialog(wahl)));
 }
 
 std::optional<fs::path> Programm::ZumSpeichern(const Dateiwahl& wahl) {
-  return AlsPfad(plattform_.dialoge.Speichern(AlsDialog(wahl)));
+  return Gewaehlt(plattform_.dialoge.Speichern(AlsDialog(wahl)));
 }
 
 void Programm::RettungSichern() {
@@ -224,6 +273,7 @@ void Programm::Beenden() {
   const bool zuEnde = dateien_.Beenden();
   Zeigen();
   if (!zuEnde) return;
+  for (const QWidget* fenster : QApplication::topLevelWidgets()) LageMerken(*fenster, plattform_.speicher);
   beendet_ = true;
   plattform_.hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Beenden, 0);
   Q_EMIT beendet();

@@ -3,18 +3,23 @@
 #include <QPointer>
 #include <memory>
 
+#include "app/Dateiabwurf.h"
 #include "app/Verzeichnisse.h"
 #include "persistence/Dateiablauf.h"
 #include "persistence/Rueckfragen.h"
+#include "station/Verlauf.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/info/Hilfetaste.h"
+#include "ui/main/Tastenwege.h"
 #include "ui/main/frmVesk.h"
 
 class QWindow;
 
 namespace vesk {
 
+class frmBaender;
 class frmDatenblatt;
+class frmDiagramme;
 class frmInfo;
 class frmLstg;
 class frmOptions;
@@ -45,10 +50,14 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   frmUser& Benutzerfenster();
   frmLstg& Leistungsumrechnung();
   frmVorschau& Vorschau();
+  frmBaender& Baender();
+  frmDiagramme& Diagramme();
 
   void Tun(const Handlung& handlung) override;
+  void TunBeimTippen(const QObject& feld, const Handlung& handlung) override;
   void TunBeimVerlassen(const Handlung& handlung) override;
   void Befehlen(Befehl befehl) override;
+  void DateiOeffnen(const QString& pfad) override;
   void Hinzeigen(const Papierort& ort) override;
 
  Q_SIGNALS:
@@ -60,7 +69,12 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   std::optional<std::filesystem::path> ZumOeffnen(const Dateiwahl& wahl) override;
   std::optional<std::filesystem::path> ZumSpeichern(const Dateiwahl& wahl) override;
 
-  Meldungen Ausfuehren(const Handlung& handlung);
+  /// How an action goes into what can be taken back.
+  using Merken = std::function<void(const Station& vorher)>;
+  Meldungen Ausfuehren(const Handlung& handlung, const Merken& merken);
+  void Zuruecknehmen(bool (Verlauf::*weg)(Station&));
+  void KatalogeErneuern();
+  void DateiMerken();
   void Zeigen();
   void Sagen(const Meldungen& meldungen);
   void AufgeschobenesSagen();
@@ -80,10 +94,16 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   std::unique_ptr<frmUser> benutzer_;
   std::unique_ptr<frmLstg> leistung_;
   std::unique_ptr<frmVorschau> vorschau_;
+  std::unique_ptr<frmBaender> baender_;
+  std::unique_ptr<frmDiagramme> diagramme_;
   std::unique_ptr<frmTip> tip_;
   std::unique_ptr<frmInfo> info_;
   Dateiablauf dateien_;
+  Verlauf verlauf_;
+  bool inHandlung_ = false;
   Hilfetaste hilfetaste_;
+  Tastenwege tastenwege_;
+  Dateiabwurf abwurf_;
   QPointer<QWindow> letztesFenster_;  ///< of this program, before the one that is active now
   Meldungen aufgeschoben_;            ///< of a field that has been left
   bool beendet_ = false;

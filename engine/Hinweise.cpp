@@ -21,12 +21,17 @@ constexpr std::array<const char*, 8> Nahfeldtexte = {
 
 }  // namespace
 
+Hinweis MitHilfe(Hinweis hinweis, int nummer) {
+  hinweis.hilfe = nummer;
+  return hinweis;
+}
+
 Hinweis Bestaetigung(const std::string& titel, const std::string& text) {
-  return {titel, text, Knoepfe::JaNein, Symbol::Frage, Antwort::Nein};
+  return {titel, text, Knoepfe::JaNein, Symbol::Frage, Antwort::Nein, HilfeRueckfrage};
 }
 
 Hinweis Fehlermeldung(const std::string& text, const std::string& titel) {
-  return {titel.empty() ? "Vesk - Fehlermeldung" : titel, text};
+  return MitHilfe({titel.empty() ? "Vesk - Fehlermeldung" : titel, text}, HilfeFehler);
 }
 
 Hinweis Fehlermeldung(Fehlerart art) {
@@ -34,16 +39,18 @@ Hinweis Fehlermeldung(Fehlerart art) {
 }
 
 Hinweis BereichsHinweis() {
-  return {"Hinweis", "Die Berechnung erfolgt für Frequenzen von 0,003 MHz bis 300 GHz"};
+  return MitHilfe({"Hinweis", "Die Berechnung erfolgt für Frequenzen von 0,003 MHz bis 300 GHz"},
+                  HilfeFrequenzbereich);
 }
 
 Hinweis HSMBereichsHinweis() {
-  return {"Hinweis", "HSM-Berechnung von 30 KHz - 2,5 GHz"};
+  return MitHilfe({"Hinweis", "HSM-Berechnung von 30 KHz - 2,5 GHz"}, HilfeHSMBereich);
 }
 
 Hinweis EingabeHinweis() {
-  return {"Felder bitte korrekt ausfüllen",
-          "Zum Berechnen müssen die roten Eingabefelder ausgefüllt werden!"};
+  return MitHilfe(
+      {"Felder bitte korrekt ausfüllen", "Zum Berechnen müssen die roten Eingabefelder ausgefüllt werden!"},
+      HilfeEingabe);
 }
 
 Hinweis NahfeldHinweis(int flags, Modus modus) {
@@ -63,7 +70,7 @@ Hinweis NahfeldHinweis(int flags, Modus modus) {
       "\nkleiner ist als die Nahfeldgrenze. "
       "\nSiehe auch: Hilfehandbuch Nahfeldsituation Aufklärung."
       "\n\n";
-  return {"Nahfeld Problematik", text + WiederAnzeigen, Knoepfe::JaNein};
+  return MitHilfe({"Nahfeld Problematik", text + WiederAnzeigen, Knoepfe::JaNein}, HilfeNahfeld);
 }
 
 Hinweis HSMHinweis() {
@@ -88,7 +95,7 @@ Hinweis HSMHinweis() {
       "Interessehalber kann jedoch manuell auch für einen \n"
       "anderen Grenzwerttyp (AM, TV, GSM) gerechnet werden\n"
       "\n";
-  return {"DIN VDE 0848 Teil 3-1", text + WiederAnzeigen, Knoepfe::JaNein};
+  return MitHilfe({"DIN VDE 0848 Teil 3-1", text + WiederAnzeigen, Knoepfe::JaNein}, HilfeHSM);
 }
 
 std::vector<Hinweisart> FaelligeHinweise(const Rechenergebnis& e) {

@@ -10,6 +10,25 @@ enum class Antwort : std::int16_t { OK = 1, Ja = 6, Nein = 7 };
 enum class Knoepfe { OK, JaNein };
 enum class Symbol { Ausrufezeichen, Frage };
 
+/// Numbers of the help entries that explain boxes. Those from 8001 are entries about boxes.
+enum Hilfethema : int {
+  HilfeKopieren = 1029,
+  HilfeFaktor = 2102,
+  HilfeAntenne = 2112,
+  HilfeUmrechnung = 3001,
+  HilfeBenutzer = 4001,
+  HilfePapiere = 5001,
+  HilfeBaender = 6001,
+  HilfeMeldung = 8001,
+  HilfeFrequenzbereich,
+  HilfeHSMBereich,
+  HilfeEingabe,
+  HilfeNahfeld,
+  HilfeHSM,
+  HilfeRueckfrage,
+  HilfeFehler,
+};
+
 /// A message box (UTF-8). One with Ja and Nein can only be left by a button.
 struct Hinweis {
   std::string titel;
@@ -17,7 +36,10 @@ struct Hinweis {
   Knoepfe knoepfe = Knoepfe::OK;
   Symbol symbol = Symbol::Ausrufezeichen;
   Antwort vorgabe = Antwort::Ja;  ///< default button of Ja and Nein
+  int hilfe = HilfeMeldung;       ///< number of the help entry that explains it
 };
+
+Hinweis MitHilfe(Hinweis hinweis, int nummer);
 
 /// "… wirklich löschen?" and its like: Nein is the default.
 Hinweis Bestaetigung(const std::string& titel, const std::string& text);

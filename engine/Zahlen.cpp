@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <optional>
 
 #include "engine/Laufzeitfehler.h"
 
@@ -29,6 +30,30 @@ bool UeberEins(std::string_view zahl) {
   if (fehler == std::errc::result_out_of_range) return !negativ;
   const long stelle = static_cast<long>(punkt) - static_cast<long>(erste);
   return stelle + (negativ ? -wert : wert) > 0;
+}
+
+/// A plain decimal, as nearly all are. With up to 15 digits its numerator and the power of ten below it are
+/// exact in double, so their quotient is the nearest double, the one that from_chars gives. Empty: it is not
+/// that plain.
+std::optional<double> EinfacheZahl(std::string_view text) {
+  constexpr std::size_t MeisteZiffern = 15;
+  static constexpr std::array<double, MeisteZiffern + 1> Zehnerpotenz = {
+      1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (text.empty() || text.size() > MeisteZiffern) return {};
+  std::int64_t zaehler = 0;
+  std::size_t punkt = text.size();
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char z = text[i];
+    if (z >= '0' && z <= '9') {
+      zaehler = zaehler * 10 + (z - '0');
+    } else if (z == '.' && punkt == text.size()) {
+      punkt = i;
+    } else {
+      return {};
+    }
+  }
+  const std::size_t stellen = punkt < text.size() ? text.size() - punkt - 1 : 0;
+  return static_cast<double>(zaehler) / Zehnerpotenz[stellen];
 }
 
 /// Rounds the decimal text `dezimal` ("123.456", no sign) to `stellen` places, halves away from zero.
@@ -70,6 +95,11 @@ std::string FormatierenAllgemein(Zahltyp wert, int stellen, char trenner) {
 }  // namespace
 
 float Zahl(std::string_view text) {
+  const bool minus = text.starts_with('-');
+  if (const std::optional<double> einfach = EinfacheZahl(text.substr(minus ? 1 : 0))) {
+    const auto single = static_cast<float>(*einfach);
+    return minus ? -single : single;
+  }
   text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
   const bool negativ = !text.empty() && text.front() == '-';
   if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
@@ -108,7 +138,7 @@ std::string Formatieren(float wert, int stellen, char trenner) {
   if (stellen != 2 || !(hundertstel < Groesste)) return FormatierenAllgemein(wert, stellen, trenner);
   // NOLINTNEXTLINE(bugprone-incorrect-roundings): where the sum itself rounds, the test below turns it away
   const auto gerundet = static_cast<std::int64_t>(hundertstel + 0.5);
-  const double abgeschnitten = std::floor(hundertstel);
+  const auto abgeschnitten = static_cast<double>(static_cast<std::int64_t>(hundertstel));
   if (std::abs(hundertstel - abgeschnitten - 0.5) <= hundertstel * Unschaerfe) {
     return FormatierenAllgemein(wert, stellen, trenner);
   }

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "engine/Version.h"
+#include "persistence/Pfade.h"
 #include "station/Datenblatt.h"
 #include "station/Operator.h"
 #include "station/Rechnung.h"
@@ -18,16 +19,17 @@ Dateiablauf::Dateiablauf(Station& station, const Kataloge& kataloge, Rueckfragen
     : station_(station), kataloge_(kataloge), rueckfragen_(rueckfragen) {}
 
 fs::path Dateiablauf::Pfad() const {
-  return fs::path(station_.Arbeitsverzeichnis) / station_.UserDatei;
+  return PfadAusUtf8(station_.Arbeitsverzeichnis) / PfadAusUtf8(station_.UserDatei);
 }
 
 void Dateiablauf::DateiWechseln(const fs::path& pfad) {
-  station_.UserDatei = pfad.filename().string();
-  station_.Arbeitsverzeichnis = station_.UserVerzeichnis = pfad.parent_path().string();
+  station_.UserDatei = PfadAlsUtf8(pfad.filename());
+  station_.Arbeitsverzeichnis = PfadAlsUtf8(pfad.parent_path());
+  station_.UserVerzeichnis = PfadZumZeigen(pfad.parent_path());
 }
 
 Dateiwahl Dateiablauf::Wahl(const std::string& titel, const std::string& vorschlag) const {
-  return {titel, "User Dateien (*.dat)", "dat", station_.Arbeitsverzeichnis, vorschlag};
+  return {titel, "User Dateien (*.dat)", "dat", PfadAusUtf8(station_.Arbeitsverzeichnis), vorschlag};
 }
 
 Dateiablauf::Blatt Dateiablauf::BlattJetzt() const {
@@ -41,16 +43,16 @@ Dateiablauf::Blatt Dateiablauf::BlattJetzt() const {
 void Dateiablauf::InitLaden() {
   const Vorgang vorgang(*this);
   if (!vorgang) return;
-  DateiWechseln(fs::path(station_.ProgrammVerzeichnis) / station_.UserDatei);
+  DateiWechseln(PfadAusUtf8(station_.ProgrammVerzeichnis) / PfadAusUtf8(station_.UserDatei));
   Einlesen(false);
 }
 
 void Dateiablauf::RettungAnbieten() {
   const Vorgang vorgang(*this);
   if (!vorgang) return;
-  for (const Rettung::Fund& fund : Rettung::Suchen(station_.ProgrammVerzeichnis)) {
+  for (const Rettung::Fund& fund : Rettung::Suchen(PfadAusUtf8(station_.ProgrammVerzeichnis))) {
     const std::string von =
-        fund.datei.empty() ? "für ein neues Rufzeichen" : "an " + fund.datei.filename().string();
+        fund.datei.empty() ? "für ein neues Rufzeichen" : "an " + PfadAlsUtf8(fund.datei.filename());
     const Hinweis frage{std::string(Produktname),
                         "Das Programm wurde nicht ordentlich beendet. Es gibt ungesicherte Änderungen " +
                             von + ".\nSollen sie zurückgeholt werden?",
@@ -114,7 +116,7 @@ void Dateiablauf::Auswerten(const Gelesen& datei, bool gewaehlt) {
   if (gewaehlt && bericht.abgebrochen) {
     Sagen("Die Datei " + station_.UserDatei +
           " ist unvollständig: Sie endet zu früh.\nWas fehlt, bleibt leer. " + "Die Datei bleibt als " +
-          FreierAltname(Pfad()).filename().string() + " erhalten.");
+          PfadAlsUtf8(FreierAltname(Pfad()).filename()) + " erhalten.");
   }
   Umwandeln(bericht);
   if (gewaehlt) station_.UserGeaendert = true;
@@ -143,7 +145,7 @@ void Dateiablauf::NichtGelesen(const Gelesen& datei) {
 void Dateiablauf::Umwandeln(const Lesebericht& bericht) {
   if (bericht.version != Dateiversion::ZuAlt && bericht.version != Dateiversion::Umwandelbar) return;
   Sagen(Migrationsmeldung(bericht, station_.UserDatei));
-  const bool kopiert = !DateiKopieren(Pfad(), fs::path(station_.Arbeitsverzeichnis) / "User.bak");
+  const bool kopiert = !DateiKopieren(Pfad(), PfadAusUtf8(station_.Arbeitsverzeichnis) / "User.bak");
   if (kopiert && !bericht.abgebrochen) alteFassungNoetig_ = false;
   station_.UserGeaendert = true;
 }
@@ -162,7 +164,7 @@ void Dateiablauf::AnderswoMelden() {
 
 /// Otherwise says why not, and what follows from it. `ganz`: one that ends too early is not.
 bool Dateiablauf::Brauchbar(const fs::path& pfad, const std::string& folge, bool ganz) {
-  const Fehlergrund grund = WarumUnbrauchbar(pfad.filename().string(), DateiLesen(pfad), ganz);
+  const Fehlergrund grund = WarumUnbrauchbar(PfadAlsUtf8(pfad.filename()), DateiLesen(pfad), ganz);
   return !grund || Fehler(*grund, folge);
 }
 
@@ -171,15 +173,22 @@ bool Dateiablauf::Brauchbar(const fs::path& pfad, const std::string& folge, bool
 void Dateiablauf::UserLaden() {
   const Vorgang vorgang(*this);
   if (!vorgang) return;
-  const auto gewaehlt = rueckfragen_.ZumOeffnen(Wahl("User Datei laden", {}));
-  if (!gewaehlt) return;
+  if (const auto gewaehlt = rueckfragen_.ZumOeffnen(Wahl("User Datei laden", {}))) Wechseln(*gewaehlt);
+}
+
+void Dateiablauf::UserLaden(const fs::path& gewaehlt) {
+  const Vorgang vorgang(*this);
+  if (vorgang) Wechseln(gewaehlt);
+}
+
+void Dateiablauf::Wechseln(const fs::path& gewaehlt) {
   if (!Sichern() && !NichtsZuVerlieren() &&
       !Frage(std::string(Produktname),
              "Die Änderungen sind nicht gespeichert. Trotzdem eine andere Datei laden?")) {
     return;
   }
-  if (!InsProgrammverzeichnis(*gewaehlt)) return;
-  DateiWechseln(fs::path(station_.ProgrammVerzeichnis) / gewaehlt->filename());
+  if (!InsProgrammverzeichnis(gewaehlt)) return;
+  DateiWechseln(PfadAusUtf8(station_.ProgrammVerzeichnis) / gewaehlt.filename());
   // Left where it is, a file is missing here: the data stay and get its name.
   if (DateiLesen(Pfad()).status != Lesestatus::Fehlt) Leeren();
   Einlesen(true);
@@ -191,13 +200,14 @@ bool Dateiablauf::InsProgrammverzeichnis(const fs::path& gewaehlt) {
   const std::string folge = "Es wird weiter mit " + station_.UserDatei + " gearbeitet.";
   if (!Brauchbar(gewaehlt, folge)) return false;
   std::error_code keineAntwort;
-  if (fs::equivalent(gewaehlt.parent_path(), station_.ProgrammVerzeichnis, keineAntwort)) return true;
+  if (fs::equivalent(gewaehlt.parent_path(), PfadAusUtf8(station_.ProgrammVerzeichnis), keineAntwort))
+    return true;
   const Hinweis frage{
       "User Datei laden", "Die Datei liegt nicht im Programmverzeichnis. Soll sie dorthin kopiert werden?",
       Knoepfe::JaNein,    Symbol::Frage,
       Antwort::Ja,
   };
-  const fs::path ziel = fs::path(station_.ProgrammVerzeichnis) / gewaehlt.filename();
+  const fs::path ziel = PfadAusUtf8(station_.ProgrammVerzeichnis) / gewaehlt.filename();
   const Gelesen dort = DateiLesen(ziel);
   if (rueckfragen_.Fragen(frage) != Antwort::Ja) {
     return dort.status == Lesestatus::Fehlt || Brauchbar(ziel, folge);
@@ -209,7 +219,7 @@ bool Dateiablauf::InsProgrammverzeichnis(const fs::path& gewaehlt) {
   if (dort.status != Lesestatus::Fehlt) grund = DateiKopieren(ziel, FreierAltname(ziel));
   if (!grund) grund = DateiKopieren(gewaehlt, ziel);
   if (!grund) return true;
-  return Fehler("Die Datei " + gewaehlt.filename().string() + " konnte nicht kopiert werden.", *grund);
+  return Fehler("Die Datei " + PfadAlsUtf8(gewaehlt.filename()) + " konnte nicht kopiert werden.", *grund);
 }
 
 void Dateiablauf::AenderungenVerwerfen() {

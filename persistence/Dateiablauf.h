@@ -26,6 +26,8 @@ class Dateiablauf {
 
   /// mnuDateiLaden, mnuUserLaden: saves this file and goes on with another one.
   void UserLaden();
+  /// The same with a file that is chosen already.
+  void UserLaden(const std::filesystem::path& gewaehlt);
   /// mnuDateiSpeichern, mnuUserSpeichern
   void UserSpeichern();
   void UserSpeichernUnter();
@@ -52,6 +54,7 @@ class Dateiablauf {
   };
 
   std::filesystem::path Pfad() const;
+  void Wechseln(const std::filesystem::path& gewaehlt);
   void DateiWechseln(const std::filesystem::path& pfad);
   Dateiwahl Wahl(const std::string& titel, const std::string& vorschlag) const;
   Blatt BlattJetzt() const;

@@ -1,9 +1,5 @@
 #include "persistence/Dateien.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -22,15 +18,6 @@ Gelesen Lesefehler(int nummer) {
   return {fehlt ? Lesestatus::Fehlt : Lesestatus::Fehler, {}, false, fehlt ? "" : Fehlertext(nummer)};
 }
 
-/// 0 or the error number.
-int OeffnenZumLesen(const fs::path& pfad, Deskriptor& datei, struct stat& angaben) {
-  // Without O_NONBLOCK a pipe under that name would wait for its writer.
-  datei = Deskriptor(open(pfad.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-  if (!datei || fstat(*datei, &angaben) != 0) return errno;
-  if (S_ISDIR(angaben.st_mode)) return EISDIR;
-  return S_ISREG(angaben.st_mode) ? 0 : ENODEV;
-}
-
 template <typename Schritte>
 Fehlergrund Versuchen(Schritte schritte) {
   try {
@@ -43,25 +30,22 @@ Fehlergrund Versuchen(Schritte schritte) {
 
 }  // namespace
 
-Gelesen DateiLesen(const fs::path& pfad, std::size_t hoechstens) {
-  Deskriptor datei;
-  struct stat angaben {};
-  if (const int nummer = OeffnenZumLesen(pfad, datei, angaben); nummer != 0) return Lesefehler(nummer);
-
+Gelesen DateiLesen(const fs::path& pfad, std::size_t hoechstens) try {
+  const Deskriptor datei = ZumLesenOeffnen(pfad);
   // One byte more than the size shows that the end has been reached, or that the file goes on.
-  const auto groesse = static_cast<std::size_t>(std::max<off_t>(angaben.st_size, 0));
-  Gelesen ergebnis{Lesestatus::Gelesen, std::string(std::min(groesse, hoechstens) + 1, '\0'), false, {}};
+  const auto groesse = static_cast<std::size_t>(std::min<std::uintmax_t>(Groesse(datei), hoechstens));
+  Gelesen ergebnis{Lesestatus::Gelesen, std::string(groesse + 1, '\0'), false, {}};
   std::size_t gelesen = 0;
   while (gelesen < ergebnis.bytes.size()) {
-    const ssize_t anzahl = read(*datei, ergebnis.bytes.data() + gelesen, ergebnis.bytes.size() - gelesen);
-    if (anzahl < 0 && errno == EINTR) continue;
-    if (anzahl < 0) return Lesefehler(errno);
+    const std::size_t anzahl = Lesen(datei, ergebnis.bytes.data() + gelesen, ergebnis.bytes.size() - gelesen);
     if (anzahl == 0) break;
-    gelesen += static_cast<std::size_t>(anzahl);
+    gelesen += anzahl;
   }
   ergebnis.abgeschnitten = gelesen > hoechstens;
   ergebnis.bytes.resize(std::min(gelesen, hoechstens));
   return ergebnis;
+} catch (const std::system_error& fehler) {
+  return Lesefehler(fehler.code().value());
 }
 
 Fehlergrund WarumOhneInhalt(const std::string& name, const Gelesen& datei) {
@@ -84,19 +68,12 @@ Fehlergrund DateiSchreiben(const fs::path& pfad, std::string_view bytes) {
 
 Fehlergrund DateiKopieren(const fs::path& von, const fs::path& nach) {
   return Versuchen([&] {
-    Deskriptor quelle;
-    struct stat angaben {};
-    if (const int nummer = OeffnenZumLesen(von, quelle, angaben); nummer != 0) {
-      throw std::system_error(nummer, std::generic_category());
-    }
+    const Deskriptor quelle = ZumLesenOeffnen(von);
     Neufassung neu(nach);
     neu.RechteWie(quelle);
     std::array<char, 65536> puffer{};
-    for (;;) {
-      const ssize_t anzahl = read(*quelle, puffer.data(), puffer.size());
-      if (anzahl == 0) break;
-      if (anzahl < 0 && errno != EINTR) throw std::system_error(errno, std::generic_category());
-      if (anzahl > 0) neu.Schreiben({puffer.data(), static_cast<std::size_t>(anzahl)});
+    while (const std::size_t anzahl = Lesen(quelle, puffer.data(), puffer.size())) {
+      neu.Schreiben({puffer.data(), anzahl});
     }
     neu.Ersetzen();
     neu.VerzeichnisSichern();

@@ -1,16 +1,28 @@
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "engine/Version.h"
 #include "persistence/Dateiablauf.h"
+#include "persistence/Pfade.h"
 #include "station/Haupthandlungen.h"
 #include "station/Operator.h"
+#include "station/Text.h"
 
 namespace vesk {
 
 namespace fs = std::filesystem;
 
 namespace {
+
+/// Windows keeps some names for devices, whatever follows their first dot.
+bool Geraetename(const std::string& name) {
+  const std::string stamm = Grossbuchstaben(OhneBlanks(name.substr(0, name.find('.'))));
+  constexpr std::array Namen = {"CON", "PRN", "AUX", "NUL"};
+  const bool nummeriert = stamm.starts_with("COM") || stamm.starts_with("LPT");
+  return std::find(Namen.begin(), Namen.end(), stamm) != Namen.end() ||
+         (nummeriert && stamm.size() == 4 && stamm.back() >= '1' && stamm.back() <= '9');
+}
 
 /// What a file name cannot hold, on whatever medium, becomes a hyphen: "DK2XYZ/P" goes to "DK2XYZ-P.dat".
 std::string Dateiname(std::string rufzeichen) {
@@ -21,7 +33,7 @@ std::string Dateiname(std::string rufzeichen) {
         return static_cast<unsigned char>(z) < ' ' || Verboten.find(z) != std::string_view::npos;
       },
       '-');
-  return rufzeichen + ".dat";
+  return (Geraetename(rufzeichen) ? "_" : "") + rufzeichen + ".dat";
 }
 
 }  // namespace
@@ -59,7 +71,7 @@ bool Dateiablauf::Beenden() {
 
 void Dateiablauf::RettungSichern() {
   if (laeuft_ || beendet_) return;
-  rettung_.Sichern(station_.ProgrammVerzeichnis, station_.neuesRufzeichen ? fs::path() : Pfad(),
+  rettung_.Sichern(PfadAusUtf8(station_.ProgrammVerzeichnis), station_.neuesRufzeichen ? fs::path() : Pfad(),
                    UserDateiSchreiben(station_));
 }
 
@@ -97,7 +109,7 @@ bool Dateiablauf::SpeichernUnter() {
   const fs::path alterPfad = Pfad();
   const bool andereDatei = *pfad != alterPfad;
   if (andereDatei && stand_.AndereArbeitenAn(*pfad) &&
-      !Frage(std::string(Produktname), "Die Datei " + pfad->filename().string() +
+      !Frage(std::string(Produktname), "Die Datei " + PfadAlsUtf8(pfad->filename()) +
                                            " ist in einem anderen Vesk geöffnet. Trotzdem überschreiben?")) {
     return false;
   }
@@ -140,7 +152,7 @@ bool Dateiablauf::FremdesUeberschreiben(const std::string& bytes, Dateistand::Er
       "Die Datei " + station_.UserDatei +
       " wurde inzwischen von einem anderen Programm geändert.\nSoll sie mit den Daten aus "
       "diesem Fenster überschrieben werden? Die andere Fassung bleibt dann als " +
-      FreierAltname(Pfad()).filename().string() + " erhalten.";
+      PfadAlsUtf8(FreierAltname(Pfad()).filename()) + " erhalten.";
   if (!Frage(std::string(Produktname), frage) || !AlteFassungBehalten()) return false;
   ergebnis = stand_.Schreiben(Pfad(), bytes, true);
   return true;

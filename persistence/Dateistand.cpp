@@ -1,23 +1,10 @@
 #include "persistence/Dateistand.h"
 
-#include <fcntl.h>
-
 #include <system_error>
 
 namespace vesk {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-Deskriptor OeffnenZumSperren(const fs::path& pfad) {
-  // On network file systems only a file that is open for writing can be locked.
-  const int zeichen = O_NONBLOCK | O_CLOEXEC;
-  Deskriptor datei(open(pfad.c_str(), O_RDWR | zeichen));
-  return datei ? std::move(datei) : Deskriptor(open(pfad.c_str(), O_RDONLY | zeichen));
-}
-
-}  // namespace
 
 Gelesen Dateistand::Lesen(const fs::path& pfad) {
   Gelesen gelesen = DateiLesen(pfad);
@@ -26,20 +13,12 @@ Gelesen Dateistand::Lesen(const fs::path& pfad) {
   inhalt_.reset();
   if (gelesen.status == Lesestatus::Gelesen) inhalt_ = gelesen.bytes;
 
-  anderswoOffen_ = false;
-  if (SelbeDatei(sperre_, pfad)) return gelesen;
-  sperre_ = Deskriptor();
-  Deskriptor datei = OeffnenZumSperren(pfad);
-  if (!datei) return gelesen;
-  anderswoOffen_ = SperreVersuchen(datei) == Sperre::Belegt;
-  if (!anderswoOffen_) sperre_ = std::move(datei);
+  anderswoOffen_ = !sperre_.Gilt(pfad) && sperre_.Nehmen(pfad) == Sperre::Belegt;
   return gelesen;
 }
 
 bool Dateistand::AndereArbeitenAn(const fs::path& pfad) const {
-  if (SelbeDatei(sperre_, pfad)) return false;
-  const Deskriptor datei = OeffnenZumSperren(pfad);
-  return datei && SperreVersuchen(datei) == Sperre::Belegt;
+  return !sperre_.Gilt(pfad) && Dateisperre().Nehmen(pfad) == Sperre::Belegt;
 }
 
 bool Dateistand::Fremd(const fs::path& pfad, std::string_view bytes) const {
@@ -59,7 +38,7 @@ Dateistand::Ergebnis Dateistand::Schreiben(const fs::path& pfad, std::string_vie
     pfad_ = pfad;
     inhalt_ = bytes;
     anderswoOffen_ = false;
-    sperre_ = neu.Abgeben();
+    sperre_.Uebergehen(neu.Abgeben(), pfad);
     neu.VerzeichnisSichern();
     return {Ausgang::Geschrieben, {}};
   } catch (const std::system_error& fehler) {

@@ -44,7 +44,7 @@ class Dateistand {
 
   std::filesystem::path pfad_;
   std::optional<std::string> inhalt_;  ///< what stood in the file last; nothing: there was none
-  Deskriptor sperre_;
+  Dateisperre sperre_;
   bool anderswoOffen_ = false;
 };
 

@@ -1,12 +1,19 @@
 #include "persistence/Katalogdateien.h"
 
+#include <algorithm>
+#include <array>
+
 #include "persistence/Antennendatei.h"
 #include "persistence/Dateien.h"
 #include "persistence/Kabeldatei.h"
 
 namespace vesk {
 
+namespace fs = std::filesystem;
+
 namespace {
+
+const std::array<fs::path, 2> Katalognamen = {"Kabel.txt", "Antennen.txt"};
 
 Kabelkatalog KabelLesen(const Gelesen& datei) {
   if (datei.status == Lesestatus::Gelesen) return KabelLaden(datei.bytes);
@@ -20,6 +27,38 @@ Antennenkatalog AntennenLesen(const Gelesen& datei) {
 }
 
 }  // namespace
+
+bool IstKatalog(const fs::path& pfad) {
+  return std::count(Katalognamen.begin(), Katalognamen.end(), pfad.filename()) != 0;
+}
+
+bool KatalogErsetzen(const fs::path& pfad, const fs::path& verzeichnis, Rueckfragen& rueckfragen) {
+  const std::string name = pfad.filename().string();
+  const fs::path ziel = verzeichnis / name;
+  const Gelesen neu = DateiLesen(pfad);
+  const auto fehler = [&](const std::string& grund) {
+    rueckfragen.Fragen(Fehlermeldung(name + " wurde nicht übernommen.\n" + grund));
+    return false;
+  };
+  if (const Fehlergrund grund = WarumOhneInhalt(name, neu)) return fehler(*grund);
+  const bool brauchbar = name == Katalognamen[0]
+                             ? !KabelLesen(neu).fehler && KabelLesen(neu).Meldung.empty()
+                             : !AntennenLesen(neu).fehler && !AntennenLesen(neu).Antennen.empty();
+  if (!brauchbar) return fehler("Die Datei hat nicht den Aufbau eines solchen Katalogs.");
+  const Gelesen bisher = DateiLesen(ziel);
+  if (bisher.status == Lesestatus::Gelesen && bisher.bytes == neu.bytes) return false;
+  const fs::path alt = FreierAltname(ziel);
+  const std::string bleibt = bisher.status == Lesestatus::Fehlt
+                                 ? ""
+                                 : "\nDer bisherige bleibt als " + alt.filename().string() + " erhalten.";
+  const Hinweis frage{"Katalog übernehmen", "Soll " + name + " der Katalog des Programms werden?" + bleibt,
+                      Knoepfe::JaNein, Symbol::Frage, Antwort::Ja};
+  if (rueckfragen.Fragen(frage) != Antwort::Ja) return false;
+  Fehlergrund grund;
+  if (bisher.status != Lesestatus::Fehlt) grund = DateiKopieren(ziel, alt);
+  if (!grund) grund = DateiKopieren(pfad, ziel);
+  return !grund || fehler(*grund);
+}
 
 Kataloge KatalogeLesen(const std::filesystem::path& verzeichnis, Meldungen& meldungen) {
   Kataloge kataloge{KabelLesen(DateiLesen(verzeichnis / "Kabel.txt")),

@@ -1,10 +1,5 @@
 #include "persistence/Neufassung.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -44,8 +39,7 @@ Deskriptor NeuOeffnen(const fs::path& pfad) {
   using namespace std::chrono_literals;
   const auto schluss = std::chrono::steady_clock::now() + 2s;
   do {
-    Deskriptor datei(open(pfad.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
-    if (!datei) Scheitern(errno);
+    Deskriptor datei = ZumSchreibenAnlegen(pfad);
     if (SperreVersuchen(datei) == Sperre::Belegt) {
       std::this_thread::sleep_for(10ms);
     } else if (SelbeDatei(datei, pfad)) {
@@ -58,74 +52,42 @@ Deskriptor NeuOeffnen(const fs::path& pfad) {
 
 }  // namespace
 
-Deskriptor::~Deskriptor() {
-  if (fd_ >= 0) close(fd_);
-}
-
-bool SelbeDatei(const Deskriptor& datei, const fs::path& pfad) {
-  struct stat offen {};
-  struct stat dort {};
-  return datei && fstat(*datei, &offen) == 0 && stat(pfad.c_str(), &dort) == 0 &&
-         offen.st_dev == dort.st_dev && offen.st_ino == dort.st_ino;
-}
-
-Sperre SperreVersuchen(const Deskriptor& datei) {
-  while (flock(*datei, LOCK_EX | LOCK_NB) != 0) {
-    if (errno == EWOULDBLOCK) return Sperre::Belegt;
-    if (errno != EINTR) break;
-  }
-  return Sperre::Erhalten;
-}
-
 Neufassung::Neufassung(const fs::path& pfad) : ziel_(NachVerknuepfungen(pfad)) {
   if (!ziel_.has_filename()) Scheitern(EISDIR);
-  struct stat alt {};
-  zielVorhanden_ = stat(ziel_.c_str(), &alt) == 0;
-  if (zielVorhanden_ && S_ISDIR(alt.st_mode)) Scheitern(EISDIR);
-  if (zielVorhanden_ && !S_ISREG(alt.st_mode)) Scheitern(ENODEV);
-  // Renaming would pass over the write protection of the file itself.
-  if (zielVorhanden_ && faccessat(AT_FDCWD, ziel_.c_str(), W_OK, AT_EACCESS) != 0) Scheitern(errno);
-  neben_ = Verzeichnis(ziel_) / ("." + ziel_.filename().string() + ".neu");
+  std::error_code egal;
+  const fs::file_status alt = fs::status(ziel_, egal);
+  zielVorhanden_ = fs::exists(alt);
+  if (fs::is_directory(alt)) Scheitern(EISDIR);
+  if (zielVorhanden_ && !fs::is_regular_file(alt)) Scheitern(ENODEV);
+  if (zielVorhanden_) SchreibrechtPruefen(ziel_);
+  fs::path name = ".";
+  neben_ = Verzeichnis(ziel_) / ((name += ziel_.filename()) += ".neu");
   datei_ = NeuOeffnen(neben_);
-  if (ftruncate(*datei_, 0) != 0) Scheitern(errno);
+  Leeren(datei_);
 }
 
 Neufassung::~Neufassung() {
-  if (datei_ && !ersetzt_) unlink(neben_.c_str());
+  std::error_code egal;
+  if (datei_ && !ersetzt_) fs::remove(neben_, egal);
 }
 
 void Neufassung::Schreiben(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t anzahl = write(*datei_, bytes.data(), bytes.size());
-    if (anzahl < 0 && errno != EINTR) Scheitern(errno);
-    if (anzahl > 0) bytes.remove_prefix(static_cast<std::size_t>(anzahl));
-  }
+  vesk::Schreiben(datei_, bytes);
 }
 
 void Neufassung::RechteWie(const Deskriptor& vorbild) {
-  struct stat alt {};
-  if (!zielVorhanden_ && fstat(*vorbild, &alt) == 0) fchmod(*datei_, alt.st_mode & 0777U);
-}
-
-void Neufassung::RechteUebernehmen() {
-  struct stat alt {};
-  if (stat(ziel_.c_str(), &alt) != 0) return;
-  // Only root may give a file away; for everybody else the file is now their own.
-  [[maybe_unused]] const int verschenkt = fchown(*datei_, alt.st_uid, alt.st_gid);
-  fchmod(*datei_, alt.st_mode & 07777U);
+  if (!zielVorhanden_) vesk::RechteWie(datei_, vorbild);
 }
 
 void Neufassung::Ersetzen() {
-  RechteUebernehmen();
-  if (fsync(*datei_) != 0 && errno != EINVAL) Scheitern(errno);
-  if (rename(neben_.c_str(), ziel_.c_str()) != 0) Scheitern(errno);
+  RechteUndEigentuemerWie(datei_, ziel_);
+  Festschreiben(datei_);
+  Umbenennen(neben_, ziel_);
   ersetzt_ = true;
 }
 
 void Neufassung::VerzeichnisSichern() const {
-  // A directory that may be written but not read cannot be flushed; nor can those of some file systems.
-  const Deskriptor verzeichnis(open(Verzeichnis(ziel_).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (verzeichnis && fsync(*verzeichnis) != 0 && errno != EINVAL) Scheitern(errno);
+  VerzeichnisFestschreiben(Verzeichnis(ziel_));
 }
 
 const char* Fehlertext(int nummer) {
@@ -135,7 +97,9 @@ const char* Fehlertext(int nummer) {
   };
   static constexpr std::array Tabelle = {
       Zeile{ENOSPC, "Auf dem Datenträger ist kein Platz mehr."},
+#ifdef EDQUOT
       Zeile{EDQUOT, "Der zugeteilte Platz auf dem Datenträger ist verbraucht."},
+#endif
       Zeile{EFBIG, "Die Datei darf nicht so groß werden: Der erlaubte Platz reicht nicht."},
       Zeile{EACCES, "Die Berechtigung fehlt."},
       Zeile{EPERM, "Die Berechtigung fehlt, oder die Datei ist gesperrt."},

@@ -5,28 +5,31 @@
 #include <system_error>
 #include <utility>
 
+#include "persistence/Pfade.h"
+
 namespace vesk {
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view Endung = ".rettung";
+constexpr const char* Endung = ".rettung";
 
 /// ".user.dat.rettung": hidden, and no file dialog for *.dat offers it.
 fs::path Rettungspfad(const fs::path& verzeichnis, const fs::path& datei) {
-  return verzeichnis / ("." + datei.filename().string() + std::string(Endung));
+  fs::path name = ".";
+  return verzeichnis / ((name += datei.filename()) += Endung);
 }
 
 /// The copy begins with the path of its file and a zero byte, which no path holds.
 std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
-  const std::string name = pfad.filename().string();
-  if (!name.starts_with('.') || !name.ends_with(Endung) || name.size() == Endung.size()) return std::nullopt;
+  if (pfad.filename().native().front() != '.' || pfad.extension() != Endung) return std::nullopt;
   if (Dateistand().AndereArbeitenAn(pfad)) return std::nullopt;
   const Gelesen inhalt = DateiLesen(pfad);
   const std::size_t ende = inhalt.bytes.find('\0');
   if (ende == std::string::npos) return std::nullopt;
-  return Rettung::Fund{pfad, inhalt.bytes.substr(0, ende), inhalt.bytes.substr(ende + 1)};
+  return Rettung::Fund{pfad, PfadAusUtf8(std::string_view(inhalt.bytes).substr(0, ende)),
+                       inhalt.bytes.substr(ende + 1)};
 }
 
 /// Puts away what nobody needs to be asked about.
@@ -35,7 +38,7 @@ bool Hinfaellig(const Rettung::Fund& fund) {
   const Gelesen datei = DateiLesen(fund.datei);
   if (datei.status != Lesestatus::Gelesen) return false;
   if (datei.bytes != fund.bytes) {
-    if (fs::last_write_time(fund.pfad, egal) > fs::last_write_time(fund.datei, egal)) return false;
+    if (Aenderungszeit(fund.pfad) > Aenderungszeit(fund.datei)) return false;
     if (DateiSchreiben(FreierAltname(fund.datei), fund.bytes)) return true;  // no room now: another time
   }
   fs::remove(fund.pfad, egal);
@@ -59,7 +62,7 @@ void Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, const 
   if (pfad != pfad_) Entfernen();
   if (stand_.AndereArbeitenAn(pfad)) return;
   // A copy that cannot be written is no reason to disturb: saving itself tells.
-  const std::string inhalt = datei.string() + '\0' + bytes;
+  const std::string inhalt = PfadAlsUtf8(datei) + '\0' + bytes;
   if (stand_.Schreiben(pfad, inhalt, true).ausgang != Dateistand::Ausgang::Geschrieben) return;
   pfad_ = pfad;
   zuletzt_ = bytes;

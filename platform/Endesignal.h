@@ -3,8 +3,9 @@
 
 namespace vesk {
 
-/// Logging out, shutting down and Ctrl+C ask a program to end by a signal. It becomes an event here, so that
-/// the program can save first. Must be created before any other thread starts, so before the application.
+/// Logging out, shutting down and Ctrl+C ask a program to end, by a signal or as the system does it. It
+/// becomes an event here, so that the program can save first. Must be created before any other thread starts,
+/// so before the application.
 class Endesignal : public QObject {
   Q_OBJECT
  public:
@@ -17,7 +18,9 @@ class Endesignal : public QObject {
   void verlangt();
 
  private:
+#ifndef _WIN32
   int kanal_;
+#endif
 };
 
 }  // namespace vesk

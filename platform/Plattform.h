@@ -31,6 +31,9 @@ class Dateidialoge {
   virtual std::optional<QString> Speichern(const Dialogwahl& wahl) = 0;
 };
 
+/// Name of the dynamic property that carries the help context number of a control, a window or a box.
+inline constexpr const char* HilfekontextEigenschaft = "HelpContextID";
+
 enum class Hilfebefehl { Kontext = 1, Beenden = 2, Inhalt = 3, HilfeBenutzen = 4 };
 
 /// `datei` is the name of the help file ("F1.HLP", "Vesk32.HLP"); `kontext` a context number.

@@ -28,12 +28,14 @@ std::pair<std::size_t, std::size_t> Bereich(const QPrinter& drucker, std::size_t
 std::optional<Hinweis> Druckmeldung(Druckausgang ausgang) {
   switch (ausgang) {
     case Druckausgang::KeinDrucker:
-      return Hinweis{
-          "Drucken",
-          "Es ist kein Drucker eingerichtet.\nSpeichern Sie die Seiten als PDF und drucken Sie sie an "
-          "einem anderen Rechner, oder richten Sie in den Einstellungen Ihres Systems einen Drucker ein."};
+      return MitHilfe(
+          {"Drucken",
+           "Es ist kein Drucker eingerichtet.\nSpeichern Sie die Seiten als PDF und drucken Sie sie an "
+           "einem anderen Rechner, oder richten Sie in den Einstellungen Ihres Systems einen Drucker ein."},
+          HilfePapiere);
     case Druckausgang::Gescheitert:
-      return Hinweis{"Drucken", "Der Drucker hat den Auftrag nicht angenommen.\nGedruckt ist nichts."};
+      return MitHilfe({"Drucken", "Der Drucker hat den Auftrag nicht angenommen.\nGedruckt ist nichts."},
+                      HilfePapiere);
     case Druckausgang::Gedruckt:
     case Druckausgang::Abgebrochen:
       break;

@@ -105,6 +105,7 @@ QtMeldungsboxen::QtMeldungsboxen() {
 Antwort QtMeldungsboxen::Zeigen(const Hinweis& box) {
   const bool frage = box.knoepfe == Knoepfe::JaNein;
   StrengeBox fenster(frage, uhr_);
+  fenster.setProperty(HilfekontextEigenschaft, box.hilfe);
   fenster.setWindowTitle(QString::fromStdString(box.titel));
   fenster.setTextFormat(Qt::PlainText);
   // Some texts break their lines with CR, which a label does not show.

@@ -25,5 +25,7 @@ Dokument Benutzerblatt(const Station& s);
 Dokument Winkeldiagramm(const Winkelblatt& blatt, Winkelkurve kurve, Massstabswunsch massstab);
 /// One page for each used column.
 Dokument Rechenwege(const Station& s, const Kataloge& k);
+/// The charts of the main window's inputs; without these, of the columns'.
+Dokument Diagramme(const Station& s, const Kataloge& k);
 
 }  // namespace vesk

@@ -102,6 +102,8 @@ std::vector<Dokument> Dokumente(const Station& s, const Kataloge& k, const Papie
       return Winkeldokumente(s, auftrag);
     case Papierart::Rechenweg:
       return {Rechenwege(s, k)};
+    case Papierart::Diagramme:
+      return {Diagramme(s, k)};
     case Papierart::Mappe:
       break;
   }

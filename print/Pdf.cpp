@@ -1,8 +1,7 @@
 #include "print/Pdf.h"
 
-#include <dlfcn.h>
-
 #include <QBuffer>
+#include <QLibrary>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -60,8 +59,9 @@ Pdfangaben Angaben(const Mappe& mappe, const QDateTime& zeit) {
 }
 
 Pdfabschluss& Abschluss() {
-  void* const bibliothek = dlopen(PdfabschlussBibliothek, RTLD_NOW | RTLD_LOCAL);
-  void* const funktion = bibliothek != nullptr ? dlsym(bibliothek, PdfabschlussName) : nullptr;
+  QLibrary bibliothek(QString::fromLatin1(PdfabschlussBibliothek));
+  bibliothek.setLoadHints(QLibrary::ResolveAllSymbolsHint);
+  const QFunctionPointer funktion = bibliothek.resolve(PdfabschlussName);
   if (funktion == nullptr) {
     throw std::runtime_error(std::string("Ein Teil des Programms fehlt: ") + PdfabschlussBibliothek + ".");
   }

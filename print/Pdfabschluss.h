@@ -23,7 +23,7 @@ struct Pdfangaben {
 /// Lives in a library of its own, which is loaded when the first PDF is made: what it needs would cost every
 /// start several megabytes.
 using Pdfabschluss = void(const std::string& roh, const Pdfangaben& angaben, std::string& fertig);
-inline constexpr const char* PdfabschlussBibliothek = "libvesk_pdf.so";
+inline constexpr const char* PdfabschlussBibliothek = "vesk_pdf";
 inline constexpr const char* PdfabschlussName = "vesk_pdf_abschliessen";
 
 }  // namespace vesk

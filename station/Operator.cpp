@@ -52,9 +52,11 @@ Meldungen UserCheck(Station& s, bool drucken) {
   }
   if (vollstaendig) return {};
   constexpr const char* Titel = "Felder bitte korrekt ausfüllen";
-  if (!drucken) return {{{Titel, "Die violetten Felder müssen alle ausgefüllt werden!"}}};
-  return {{{Titel, "\nDie persönlichen Daten sind nicht vollständig.\nDatenblatt trotzdem drucken?",
-            Knoepfe::JaNein}}};
+  if (!drucken)
+    return {{MitHilfe({Titel, "Die violetten Felder müssen alle ausgefüllt werden!"}, HilfeBenutzer)}};
+  return {{MitHilfe({Titel, "\nDie persönlichen Daten sind nicht vollständig.\nDatenblatt trotzdem drucken?",
+                     Knoepfe::JaNein},
+                    HilfeBenutzer)}};
 }
 
 Meldungen BenutzerLoeschen(Station&, const Kataloge&) {

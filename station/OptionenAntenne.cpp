@@ -69,8 +69,10 @@ Meldungen AntenneNehmen(Station& s, const Kataloge& k) {
   Antennenwahl wahl;
   if (!AntennePasst(s, k, wahl)) {
     if (!Positiv(s.werte.QRGText)) return {};
-    return {{Fehlermeldung("Die Antenne paßt nicht zur Frequenzvorgabe.\nBitte eine andere Antenne wählen!",
-                           "Fehler")}};
+    return {{MitHilfe(
+        Fehlermeldung("Die Antenne paßt nicht zur Frequenzvorgabe.\nBitte eine andere Antenne wählen!",
+                      "Fehler"),
+        HilfeAntenne)}};
   }
   const std::string& typ = k.antennen.Antennen.at(std::size_t(s.AntennenIndex)).typ;
   const bool andere = s.Datenblattspalten[0].Antenne != typ;

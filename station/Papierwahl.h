@@ -3,8 +3,8 @@
 
 namespace vesk {
 
-/// What can be printed: the binder of all documents, or one of them.
-enum class Papierart { Mappe, Antrag, Datenblatt, RegTP, Benutzer, Winkel, Rechenweg };
+/// What can be printed: the binder of all documents, one of them, or the charts, which are in no binder.
+enum class Papierart { Mappe, Antrag, Datenblatt, RegTP, Benutzer, Winkel, Rechenweg, Diagramme };
 
 /// The distances that an angle diagram shows.
 enum class Winkelkurve { OhneHSM, HSM306, HSMvde };

@@ -124,13 +124,14 @@ float FaktorAusText(std::string_view text) {
 }
 
 Hinweis FaktorHinweis() {
-  return {"Faktor für vorgesehene Sendeart <1",
-          "Für die Sendeart wurde ein Faktor <1 ermittelt!\n"
-          "Wenn im Antrag mit diesem Faktor gerechnet wird, \n"
-          "darf er beim Funkbetrieb nicht überschritten werden!\n"
-          "\n"
-          "Diese Meldung in Zukunft wieder anzeigen?",
-          Knoepfe::JaNein};
+  return MitHilfe({"Faktor für vorgesehene Sendeart <1",
+                   "Für die Sendeart wurde ein Faktor <1 ermittelt!\n"
+                   "Wenn im Antrag mit diesem Faktor gerechnet wird, \n"
+                   "darf er beim Funkbetrieb nicht überschritten werden!\n"
+                   "\n"
+                   "Diese Meldung in Zukunft wieder anzeigen?",
+                   Knoepfe::JaNein},
+                  HilfeFaktor);
 }
 
 }  // namespace vesk

@@ -4,12 +4,14 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "engine/Berechnung.h"
 #include "engine/Rechenwerte.h"
 #include "station/Datenblattspalte.h"
 #include "station/Kabelkatalog.h"
 #include "station/Papierwahl.h"
+#include "station/Schaubildwahl.h"
 #include "station/Sektoren.h"
 #include "station/Sendeart.h"
 
@@ -144,6 +146,8 @@ struct Fensterlage {
   bool benutzer = false;
   bool vorschau = false;
   bool dateimenue = false;  ///< the main window's entries for the data sheet's file can be used
+  bool baender = false;
+  bool diagramme = false;
 
   bool operator==(const Fensterlage&) const = default;
 };
@@ -193,6 +197,7 @@ struct Station {
   std::string klasseEntschieden;  ///< callsign that the class was decided for, or that came with it
   Fensterlage fenster;
   Papierwahl papiere;
+  Schaubildwahl schaubilder;
 
   bool UserGeaendert = false;
   bool neuesRufzeichen = false;  ///< the data are a callsign's that has no file yet; the file is another's
@@ -201,7 +206,8 @@ struct Station {
   std::string UserDatei = "user.dat";  ///< bare name
   std::string UserVerzeichnis;         ///< shown in the title of the data sheet
   std::string ProgrammVerzeichnis;
-  std::string Arbeitsverzeichnis;  ///< where the file is written
+  std::string Arbeitsverzeichnis;           ///< where the file is written
+  std::vector<std::string> zuletztBenutzt;  ///< full paths of the user's files, the last one first
 
   bool operator==(const Station&) const = default;
 };

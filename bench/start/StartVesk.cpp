@@ -4,12 +4,10 @@
 #include <QTranslator>
 
 #include "Gemalt.h"
+#include "app/Desktop.h"
 #include "app/Programm.h"
 #include "platform/Endesignal.h"
-#include "platform/QtDrucker.h"
-#include "platform/QtPlattform.h"
 #include "ui/basis/Programmbild.h"
-#include "ui/info/Hilfesystem.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,20 +23,12 @@ int main(int anzahl, char** argumente) {
     QApplication::installTranslator(&uebersetzung);
   }
 
-  vesk::QtMeldungsboxen boxen;
-  vesk::QtDateidialoge dialoge;
-  vesk::QtBenutzerspeicher speicher;
-  vesk::QtSignalton ton;
-  vesk::QtDrucker drucker;
-  vesk::QtBetrachter betrachter;
-  vesk::QtFortschrittsanzeige fortschritt;
   const vesk::Verzeichnisse verzeichnisse =
       vesk::VerzeichnisseBestimmen(QApplication::arguments().value(1), QApplication::applicationDirPath());
-  vesk::MitgelieferteKopieren(verzeichnisse, speicher);
+  vesk::Desktop desktop(verzeichnisse);
+  vesk::MitgelieferteKopieren(verzeichnisse, desktop.speicher);
   vesk::Station station;
-  vesk::Hilfesystem hilfe(verzeichnisse.daten + "/hilfe"_L1, boxen, drucker);
-  vesk::Plattform plattform{boxen, dialoge, hilfe, speicher, ton, drucker, betrachter, fortschritt};
-  vesk::Programm programm(station, plattform, verzeichnisse);
+  vesk::Programm programm(station, desktop.plattform, verzeichnisse);
   ende.Lauschen();
   const Gemalt gemalt(programm.Hauptfenster());
   QTimer::singleShot(0, &programm, &vesk::Programm::Starten);

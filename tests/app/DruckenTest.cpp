@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <iostream>
 #include <sstream>
 
 #include "app/Kommandozeile.h"
@@ -58,7 +59,7 @@ struct Drucken : testing::Test {
     std::ostringstream aus;
     std::ostringstream fehler;
     const QString alles = QString::fromStdString("drucken --verzeichnis . " + zeile);
-    const Aufruf aufruf = KommandozeileAusfuehren(alles.split(u' '), ',', aus, fehler);
+    const Aufruf aufruf = KommandozeileAusfuehren(alles.split(u' '), ',', {std::cin, aus, fehler});
     EXPECT_EQ(aus.str(), "");
     gemeldet = fehler.str();
     return aufruf.rueckgabe.value();

@@ -39,12 +39,16 @@ TEST_F(Hauptfenster, FarbenDerNahfeldbitsUndDesFaktors) {
   Rechnen({u"14.2"_s, u"10"_s, u"0"_s, u"0"_s, u"0"_s});
   EXPECT_EQ(Farbe(u"txtAusgabeHSMvde"_s), farben::Nahfeld);
   EXPECT_EQ(Farbe(u"txtAusgabeHSM306"_s), farben::Nahfeld);
+  EXPECT_EQ(Text(u"lblHinweis"_s), u"N: Im Nahfeld (ohne HSM, HSM VDE, HSM 306).");
   Rechnen({u"145"_s, u"750"_s, u"12"_s, u"0"_s, u"0"_s});
   EXPECT_EQ(Farbe(u"txtAusgabe"_s), farben::HellGruen);
   EXPECT_EQ(Farbe(u"txtUssVDE"_s), farben::Grau);
   Menue(u"mnuMoreOptions"_s);
   Klick(u"chkBetriebsart_0"_s, u"frmOptions"_s);
   EXPECT_EQ(Farbe(u"txtAusgabe"_s), farben::Gruen);
+  EXPECT_EQ(Text(u"lblHinweis"_s),
+            u"Kein Grenzwert bei dieser Frequenz: HSM VDE und HSM 306. „ohne HSM“ gilt für den Faktor 0.40 "
+            "der Sendeart.");
 }
 
 TEST_F(Hauptfenster, TippenUndKlickenSperrenDasKopieren) {
@@ -52,6 +56,7 @@ TEST_F(Hauptfenster, TippenUndKlickenSperrenDasKopieren) {
   Ding<>(u"txtGewinn"_s).setFocus(Qt::TabFocusReason);
   Tippen(u"5"_s);
   EXPECT_TRUE(Veraltet(u"txtAusgabe"_s) && !Kopierbar());
+  EXPECT_TRUE(Text(u"lblHinweis"_s).startsWith(u"Veraltet: "));
   Taste(Qt::Key_Backspace);
   Tippen(u"0"_s);
   EXPECT_TRUE(Kopierbar());  // the same inputs again
@@ -100,6 +105,7 @@ TEST_F(Hauptfenster, RoteFelderUndFehler) {
   Rechnen({u"14"_s, u"0"_s});
   EXPECT_EQ(Farbe(u"txtPWR"_s), farben::Rot);
   EXPECT_EQ(Farbe(u"txtQRG"_s), farben::Weiss);
+  EXPECT_EQ(Text(u"lblHinweis"_s), u"! Sendeleistung fehlt.");
   Eingeben({u"7"_s, u"100"_s});
   buehne.boxen.Erwarten("Hinweis", "0,003 MHz");
   buehne.boxen.Erwarten("Vesk - Fehlermeldung", "Gleitkommafehler");

@@ -1,6 +1,10 @@
+#include "platform/QtPlattform.h"
+#include "station/Sendeart.h"
 #include "tests/Tabelle.h"
 #include "tests/app/Lauf.h"
+#include "ui/bands/frmBaender.h"
 #include "ui/basis/Feldhilfe.h"
+#include "ui/charts/frmDiagramme.h"
 #include "ui/info/Hilfebuch.h"
 #include "ui/info/Hilfesystem.h"
 #include "ui/info/frmHilfe.h"
@@ -39,6 +43,8 @@ TEST_F(HilfeImProgramm, F1OeffnetDenEintragJedesControls) {
   Lauf::Fenster(u"frmInfo"_s).close();
   programm.Benutzerfenster();
   programm.Vorschau();
+  programm.Baender();
+  programm.Diagramme();
   QSet<int> nummern;
   for (QWidget* fenster : QApplication::topLevelWidgets()) {
     if (!fenster->objectName().startsWith(u"frm"_s) || fenster->objectName() == u"frmHilfe") continue;
@@ -56,12 +62,38 @@ TEST_F(HilfeImProgramm, F1OeffnetDenEintragJedesControls) {
   // Without a number of its own a control has that of what surrounds it.
   QTest::keyClick(&Lauf::Ding<QWidget>(u"lblDaempfung"_s), Qt::Key_F1);
   EXPECT_EQ(Seite(), u"kontext-1001.html");
+  for (int nummer = HilfeMeldung; nummer <= HilfeFehler; ++nummer) nummern.insert(nummer);
   Hilfebuch buch(QStringLiteral(VESK_DATEN "/hilfe"));
   for (const int nummer : buch.Kontextnummern()) EXPECT_TRUE(nummern.contains(nummer)) << nummer;
   for (const Tabellenzeile& zeile : Tabelle("app/Hilfenummern.csv")) {
     auto& control = Lauf::Ding<QWidget>(QString::fromStdString(zeile["control"]));
     EXPECT_EQ(control.property(HilfekontextEigenschaft).toInt(), zeile.Zahl("nummer")) << zeile.text;
   }
+}
+
+TEST_F(HilfeImProgramm, F1InEinerMeldungErklaertSieUndLaesstSieStehen) {
+  QtMeldungsboxen boxen;
+  const Hinweis hinweise[] = {BereichsHinweis(),   HSMBereichsHinweis(),
+                              EingabeHinweis(),    NahfeldHinweis(1, Modus::Abstand),
+                              HSMHinweis(),        Bestaetigung("Vesk", "Weg damit?"),
+                              FaktorHinweis(),     Fehlermeldung("Voll"),
+                              {"Hinweis", "Etwas"}};
+  QSet<QString> seiten;
+  for (const Hinweis& hinweis : hinweise) {
+    QTimer::singleShot(0, &programm, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      QTest::keyClick(box->buttons().constFirst(), Qt::Key_F1);
+      seiten << Seite();
+      // Only a window that belongs to the box can be used beside it.
+      EXPECT_EQ(hilfe.Fenster()->windowHandle()->transientParent(), box->windowHandle());
+      EXPECT_TRUE(box->isVisible() && hilfe.Fenster()->isVisible());
+      QTest::mouseClick(box->buttons().constFirst(), Qt::LeftButton);
+    });
+    boxen.Zeigen(hinweis);
+    EXPECT_TRUE(seiten.contains(u"kontext-%1.html"_s.arg(hinweis.hilfe))) << hinweis.text;
+    EXPECT_TRUE(hilfe.Fenster()->isVisible());
+  }
+  EXPECT_EQ(seiten.size(), std::ssize(hinweise));
 }
 
 TEST_F(HilfeImProgramm, MenueOeffnetHandbuchUndDasEndeSchliesstEs) {

@@ -71,7 +71,21 @@ TEST_F(PapiereTest, VorschauFolgtDerStationUndFuehrtZurStelle) {
   EXPECT_EQ(seiten.count(), vorher + 1);
   Aktivieren(Vorschau);
   QTest::keyClick(&Lauf::Fenster(Vorschau), Qt::Key_End, Qt::ControlModifier);
-  EXPECT_EQ(Ding<QSpinBox>(u"txtSeite"_s, Vorschau).value(), seiten.count());
+  auto& seite = Ding<QSpinBox>(u"txtSeite"_s, Vorschau);
+  EXPECT_EQ(seite.value(), seiten.count());
+  // At the end of a page the wheel goes on; Esc leaves a field first, and then the window.
+  auto* blatt = Ding<QAbstractScrollArea>(u"rolSeite"_s, Vorschau).viewport();
+  for (const auto& [drehung, davor] :
+       {std::pair(120, 1), std::pair(-60, 1), std::pair(-60, 0), std::pair(-120, 0)}) {
+    QWheelEvent rad({5, 5}, blatt->mapToGlobal(QPointF(5, 5)), {}, {0, drehung}, {}, {}, Qt::NoScrollPhase,
+                    false);
+    QCoreApplication::sendEvent(blatt, &rad);
+    EXPECT_EQ(seite.value(), seiten.count() - davor);
+  }
+  seite.setFocus();
+  Tippen(u"1"_s);
+  Taste(Qt::Key_Escape);
+  EXPECT_EQ(Fokus() + QString::number(seite.value()), u"rolSeite%1"_s.arg(seiten.count()));
   QTest::keyClick(&Lauf::Fenster(Vorschau), Qt::Key_Escape);
   EXPECT_FALSE(Sichtbar(Vorschau));
 }

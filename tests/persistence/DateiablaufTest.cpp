@@ -3,6 +3,7 @@
 #include <map>
 
 #include "persistence/Dateiablauf.h"
+#include "persistence/Pfade.h"
 #include "station/Operator.h"
 #include "tests/persistence/Antwortliste.h"
 #include "tests/persistence/Muster.h"
@@ -29,7 +30,7 @@ std::string NameIn(const fs::path& pfad) {
 /// One running program in a directory. One that goes without Beenden has crashed.
 struct Lauf {
   explicit Lauf(const fs::path& verzeichnis, const char* hinweis = nullptr) {
-    station.ProgrammVerzeichnis = verzeichnis.string();
+    station.ProgrammVerzeichnis = PfadAlsUtf8(verzeichnis);
     station.Arbeitsverzeichnis = station.UserVerzeichnis = "/anderswo";
     if (hinweis != nullptr) fragen.Erwarten("Hinweis", hinweis);
     ablauf.InitLaden();
@@ -123,7 +124,7 @@ TEST_F(DateiablaufTest, SpeichernUnter) {
   lauf.fragen.Fehler("Die Datei x.dat konnte nicht gespeichert werden.\nDas Verzeichnis gibt es nicht.");
   lauf.SpeichernUnter(ordner / "fehlt/x.dat");
   EXPECT_EQ(lauf.station.UserDatei, "dl1.dat") << "a failure leaves the file that was worked on";
-  EXPECT_EQ(lauf.station.UserVerzeichnis, anderswo.pfad.string());
+  EXPECT_EQ(lauf.station.UserVerzeichnis, PfadZumZeigen(anderswo.pfad));
   EXPECT_TRUE(lauf.station.UserGeaendert);
 }
 
@@ -147,7 +148,7 @@ TEST_F(DateiablaufTest, LadenSichertErstUndSchreibtDasGewaehlteNeu) {
 
   Anlegen(user, MusterMit("eins b"));
   lauf.Aendern("zwei a");
-  s.Arbeitsverzeichnis = (ordner / "fehlt").string();
+  s.Arbeitsverzeichnis = PfadAlsUtf8(ordner / "fehlt");
   for (const Antwort antwort : {Antwort::Nein, Antwort::Ja}) {
     lauf.fragen.Fehler("konnte nicht gespeichert werden.");
     lauf.fragen.Erwarten("Vesk", "Trotzdem eine andere Datei laden?", antwort);
@@ -201,7 +202,7 @@ TEST_F(DateiablaufTest, EineDateiVonAnderswo) {
   lauf.fragen.Erwarten("User Datei laden", "Soll sie dorthin kopiert werden?", Antwort::Ja);
   lauf.Laden(anderswo / "dl1.dat");
   EXPECT_EQ(lauf.station.benutzer.Name, "Stick");
-  EXPECT_EQ(lauf.station.UserVerzeichnis, ordner.pfad.string()) << "where the file really is";
+  EXPECT_EQ(lauf.station.UserVerzeichnis, PfadZumZeigen(ordner.pfad)) << "where the file really is";
   EXPECT_EQ(NameIn(ordner / "dl1-alt.dat"), "hier") << "the other file of that name is kept";
 }
 
@@ -238,6 +239,11 @@ TEST_F(DateiablaufTest, NeuesRufzeichenSchreibtNieInDieAlteDatei) {
   EXPECT_TRUE(lauf.station.UserGeaendert) << "without a callsign nothing is written anywhere";
   lauf.fragen.Erwarten("Hinweis", "Bitte zuerst das neue Rufzeichen");
   lauf.ablauf.UserSpeichern();
+  for (const std::string name : {"con.1", "COM9", "COM0"}) {
+    lauf.station.benutzer.Rufzeichen = name;
+    lauf.SpeichernUnter(std::nullopt);
+    EXPECT_EQ(lauf.fragen.Wahl().vorschlag, (name == "COM0" ? "" : "_") + name + ".dat") << "a device";
+  }
   lauf.station.benutzer.Rufzeichen = "DK2XYZ/P";
   lauf.fragen.Datei(std::nullopt);
   lauf.fragen.Erwarten("Vesk", "Programm trotzdem beenden?", Antwort::Nein);
@@ -282,7 +288,7 @@ TEST_F(DateiablaufTest, NachEinemAbsturzKommtDasNeuereZurueck) {
     lauf.fragen.Erwarten("Vesk", "ungesicherte Änderungen an dl1.dat", Antwort::Ja);
     lauf.ablauf.RettungAnbieten();
     EXPECT_EQ(lauf.station.benutzer.Name, "getippt");
-    EXPECT_EQ(lauf.station.UserVerzeichnis, anderswo.pfad.string());
+    EXPECT_EQ(lauf.station.UserVerzeichnis, PfadZumZeigen(anderswo.pfad));
     EXPECT_TRUE(fs::exists(kopie)) << "a second crash loses nothing either";
     lauf.ablauf.UserSpeichern();
     EXPECT_EQ(NameIn(anderswo / "dl1.dat"), "getippt");

@@ -1,16 +1,11 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
-#include <functional>
-#include <random>
+#include <atomic>
 #include <thread>
 
 #include "persistence/Dateien.h"
 #include "persistence/Dateistand.h"
+#include "persistence/Pfade.h"
 #include "tests/Tabelle.h"
 #include "tests/persistence/Ordner.h"
 
@@ -19,62 +14,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Runs `tun` in a process of its own.
-pid_t Starten(const std::function<int()>& tun) {
-  const pid_t kind = fork();
-  if (kind == 0) _exit(tun());
-  return kind;
-}
-
-/// What it returned; -1: it was killed.
-int Ende(pid_t kind) {
-  int zustand = 0;
-  waitpid(kind, &zustand, 0);
-  return WIFEXITED(zustand) ? WEXITSTATUS(zustand) : -1;
-}
-
-TEST(DateiSchreiben, NachJedemAbschussAltOderNeuUndGanz) {
-  const Ordner ordner;
-  const fs::path pfad = ordner / "user.dat";
-  const std::string alt(60000, 'A');
-  const std::string neu(90000, 'B');
-  ASSERT_EQ(DateiSchreiben(pfad, alt), std::nullopt);
-
-  std::minstd_rand zufall(4711);
-  int mittendrin = 0;
-  std::string zuletzt = alt;
-  // On a busy machine many children are killed before they have begun.
-  for (int i = 0; i < 250 || (mittendrin < 20 && i < 2500); ++i) {
-    const pid_t kind = Starten([&] {
-      for (bool b = true;; b = !b) {
-        if (DateiSchreiben(pfad, b ? neu : alt)) return 1;
-      }
-    });
-    std::this_thread::sleep_for(std::chrono::microseconds(zufall() % 20000));
-    kill(kind, SIGKILL);
-    ASSERT_EQ(Ende(kind), -1);
-    const std::string jetzt = Inhalt(pfad);
-    ASSERT_TRUE(jetzt == alt || jetzt == neu) << "kill " << i << ", " << jetzt.size() << " bytes";
-    ASSERT_LE(ordner.Anzahl(), 2) << "more than one remainder";
-    if (jetzt != zuletzt || ordner.Anzahl() == 2) ++mittendrin;
-    zuletzt = jetzt;
-  }
-  EXPECT_GE(mittendrin, 20) << "the kills did not fall into the saving";
-  ASSERT_EQ(DateiSchreiben(pfad, "ende"), std::nullopt);
-  EXPECT_EQ(Inhalt(pfad), "ende");
-  EXPECT_EQ(ordner.Anzahl(), 1);
-}
+constexpr const char* System = fs::path::preferred_separator == '/' ? "Posix" : "Windows";
 
 TEST(DateiSchreiben, WasNichtGehtHatEinenGrundUndLaesstAllesStehen) {
   const Ordner ordner;
   Anlegen(ordner / "datei", "alt");
   fs::create_directory(ordner / "ordner");
-  fs::create_symlink("kreis2", ordner / "kreis1");
-  fs::create_symlink("kreis1", ordner / "kreis2");
-  mkfifo((ordner / "rohr").c_str(), 0600);
+  std::error_code egal;
+  fs::create_symlink("kreis2", ordner / "kreis1", egal);
+  fs::create_symlink("kreis1", ordner / "kreis2", egal);
   const int vorher = ordner.Anzahl();
 
   for (const Tabellenzeile& zeile : Tabelle("persistence/Schreibfehler.csv")) {
+    if (zeile["wo"] != System && zeile["wo"] != "ueberall") continue;
     const fs::path pfad = ordner / Ersetzt(zeile["pfad"], "{300}", std::string(300, 'x'));
     EXPECT_EQ(DateiSchreiben(pfad, "neu"), zeile["grund"]) << pfad;
     EXPECT_NE(DateiKopieren(ordner / "datei", pfad), std::nullopt) << pfad;
@@ -84,61 +36,13 @@ TEST(DateiSchreiben, WasNichtGehtHatEinenGrundUndLaesstAllesStehen) {
   EXPECT_EQ(ordner.Anzahl(), vorher);
 }
 
-TEST(DateiSchreiben, KeinPlatzUndKeineBerechtigung) {
-  const Ordner ordner;
-  const fs::path pfad = ordner / "user.dat";
-  Anlegen(pfad, "alt");
-  const auto voll = [&] {
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit grenze{4096, 4096};
-    setrlimit(RLIMIT_FSIZE, &grenze);
-    return DateiSchreiben(pfad, std::string(5000, 'x')).value_or("").find("Platz") == std::string::npos;
-  };
-  EXPECT_EQ(Ende(Starten(voll)), 0);
-  const auto verboten = [&] {
-    if (geteuid() == 0 && setuid(65534) != 0) return true;
-    return DateiSchreiben(pfad, "neu") != "Die Berechtigung fehlt.";
-  };
-  fs::permissions(ordner.pfad, fs::perms(0555));
-  fs::permissions(pfad, fs::perms(0666));
-  EXPECT_EQ(Ende(Starten(verboten)), 0) << "read-only directory";
-  fs::permissions(ordner.pfad, fs::perms(0777));
-  fs::permissions(pfad, fs::perms(0444));
-  EXPECT_EQ(Ende(Starten(verboten)), 0) << "read-only file in a directory that could be written";
-  EXPECT_EQ(Inhalt(pfad), "alt");
-  EXPECT_EQ(ordner.Anzahl(), 1);
-}
-
-TEST(DateiSchreiben, RechteUndVerknuepfungenBleiben) {
-  const Ordner ordner;
-  fs::create_directory(ordner / "anderswo");
-  Anlegen(ordner / "anderswo/ziel.dat", "alt");
-  fs::permissions(ordner / "anderswo/ziel.dat", fs::perms(0640));
-  fs::create_symlink("anderswo/ziel.dat", ordner / "user.dat");
-  fs::create_symlink("anderswo/neu.dat", ordner / "neu.dat");
-
-  EXPECT_EQ(DateiSchreiben(ordner / "user.dat", "eins"), std::nullopt);
-  EXPECT_EQ(DateiSchreiben(ordner / "neu.dat", "zwei"), std::nullopt);
-  EXPECT_TRUE(fs::is_symlink(ordner / "user.dat") && fs::is_symlink(ordner / "neu.dat"));
-  EXPECT_EQ(Inhalt(ordner / "anderswo/ziel.dat"), "eins");
-  EXPECT_EQ(Inhalt(ordner / "anderswo/neu.dat"), "zwei");
-  EXPECT_EQ(fs::status(ordner / "anderswo/ziel.dat").permissions(), fs::perms(0640));
-
-  EXPECT_EQ(DateiKopieren(ordner / "user.dat", ordner / "User.bak"), std::nullopt);
-  EXPECT_EQ(Inhalt(ordner / "User.bak"), "eins");
-  EXPECT_EQ(fs::status(ordner / "User.bak").permissions(), fs::perms(0640));
-}
-
 TEST(DateiLesen, WasImmerDortSteht) {
   const Ordner ordner;
   Anlegen(ordner / "leer", "");
   Anlegen(ordner / "lang", std::string(1000, 'x'));
-  mkfifo((ordner / "rohr").c_str(), 0600);
   EXPECT_EQ(DateiLesen(ordner / "fehlt").status, Lesestatus::Fehlt);
   EXPECT_EQ(DateiLesen(ordner / "leer").status, Lesestatus::Gelesen);
   EXPECT_EQ(DateiLesen(ordner.pfad).grund, "Unter diesem Namen gibt es ein Verzeichnis.");
-  EXPECT_EQ(DateiLesen(ordner / "rohr").status, Lesestatus::Fehler);
-  EXPECT_EQ(DateiLesen("/dev/zero").status, Lesestatus::Fehler);
   for (const std::size_t grenze : {999U, 1000U, 1001U}) {
     const Gelesen gelesen = DateiLesen(ordner / "lang", grenze);
     EXPECT_EQ(gelesen.bytes.size(), std::min<std::size_t>(grenze, 1000));
@@ -169,6 +73,19 @@ TEST(Dateistand, ZweiProgrammeAnEinerDatei) {
   EXPECT_EQ(a.Schreiben(pfad, "bb").ausgang, Ausgang::Geschrieben) << "the same content loses nothing";
 }
 
+TEST(Pfade, NamenSindUtf8) {
+  const Ordner ordner;
+  const std::string name = "Größe “€”.dat";
+  const fs::path pfad = ordner / PfadAusUtf8("ä/" + name);
+  fs::create_directory(pfad.parent_path());
+  EXPECT_EQ(DateiSchreiben(pfad, "x"), std::nullopt);
+  for (const auto& eintrag : fs::directory_iterator(pfad.parent_path())) {
+    EXPECT_EQ(PfadAlsUtf8(eintrag.path()), PfadAlsUtf8(ordner.pfad) + "/ä/" + name);
+    EXPECT_EQ(PfadZumZeigen(eintrag.path().filename()), name);
+  }
+  EXPECT_EQ(PfadAlsUtf8(PfadAusUtf8("kein\xFFUtf8")), System == std::string("Posix") ? "kein\xFFUtf8" : "");
+}
+
 TEST(Dateistand, WasDieDateiSeitherWurde) {
   const Ordner ordner;
   const fs::path pfad = ordner / "user.dat";
@@ -190,18 +107,19 @@ TEST(Dateistand, GleichzeitigesSpeichernVerliertNichts) {
   const Ordner ordner;
   const fs::path pfad = ordner / "zahl";
   Anlegen(pfad, "0");
+  std::atomic<bool> gescheitert = false;
   const auto hundertmalPlusEins = [&](const char* wer) {
-    for (int i = 0; i < 100;) {
+    for (int i = 0; i < 100 && !gescheitert;) {
       Dateistand stand;
       const int zahl = std::stoi(stand.Lesen(pfad).bytes);
       const Ausgang ausgang = stand.Schreiben(pfad, std::to_string(zahl + 1) + wer).ausgang;
-      if (ausgang == Ausgang::Fehler) _exit(1);
+      if (ausgang == Ausgang::Fehler) gescheitert = true;
       if (ausgang == Ausgang::Geschrieben) ++i;
     }
   };
-  const pid_t kind = Starten([&] { return hundertmalPlusEins(" Kind"), 0; });
-  hundertmalPlusEins(" Mutter");
-  EXPECT_EQ(Ende(kind), 0);
+  std::thread anderer(hundertmalPlusEins, " anderer");
+  hundertmalPlusEins(" einer");
+  anderer.join();
   EXPECT_EQ(std::stoi(Inhalt(pfad)), 200);
 }
 

@@ -1,19 +1,20 @@
 #pragma once
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
+#include <random>
 #include <string>
 
 namespace vesk {
 
-/// A new directory that everybody may use, removed with all that is in it.
+/// A new directory that everybody may use, with an umlaut in its name; removed with all that is in it.
 struct Ordner {
   Ordner() {
-    std::string muster = (std::filesystem::temp_directory_path() / "vesk-XXXXXX").string();
-    if (mkdtemp(muster.data()) == nullptr) throw std::runtime_error("mkdtemp");
-    pfad = muster;
+    std::random_device zufall;
+    do {
+      pfad = std::filesystem::temp_directory_path() / u8"vesk-ä-";
+      pfad += std::to_string(zufall());
+    } while (!std::filesystem::create_directory(pfad));
     std::filesystem::permissions(pfad, std::filesystem::perms(0777));
   }
   Ordner(const Ordner&) = delete;

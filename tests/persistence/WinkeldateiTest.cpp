@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "engine/Zahlen.h"
+#include "persistence/Pfade.h"
 #include "persistence/Winkelablauf.h"
 #include "persistence/Winkeldatei.h"
 #include "station/Sektoren.h"
@@ -74,7 +75,7 @@ TEST(Sektoren, FehlerBeendenDieTabelle) {
 
 struct WinkelablaufTest : testing::Test {
   WinkelablaufTest() {
-    s.winkel.datei = (ordner / "Winkel.ang").string();
+    s.winkel.datei = PfadAlsUtf8(ordner / "Winkel.ang");
     s.winkel.antenne = "getippt";
     s.winkel.bearbeitet = true;
     s.werte.QRGText = "145";
@@ -113,7 +114,7 @@ TEST_F(WinkelablaufTest, SpeichernFragtWoEtwasVerlorenGinge) {
   fragen.Datei(ordner / "fehlt/x.ang");
   fragen.Fehler("Die Datei x.ang konnte nicht gespeichert werden.\nDas Verzeichnis gibt es nicht.");
   WinkelSpeichernUnter(s, fragen);
-  EXPECT_EQ(s.winkel.datei, (ordner / "Winkel.ang").string()) << "a failure keeps the name";
+  EXPECT_EQ(s.winkel.datei, PfadAlsUtf8(ordner / "Winkel.ang")) << "a failure keeps the name";
   EXPECT_TRUE(s.winkel.bearbeitet);
   fragen.Erwarten("Winkel-Datei speichern", frage, Antwort::Ja);
   WinkelSpeichern(s, fragen);

@@ -32,7 +32,7 @@ double Ausgerechnet(const Ausdruck& a) {
 /// Unit of the last digit; zeros before a missing point only fill up.
 double Einheit(const std::string& zahl) {
   const std::size_t punkt = zahl.find('.');
-  if (punkt != std::string::npos) return std::pow(10.0, double(punkt) + 1 - double(zahl.size()));
+  if (punkt != std::string::npos) return 1 / std::pow(10.0, double(zahl.size() - punkt) - 1);
   return zahl.size() > 5 ? std::pow(10.0, double(zahl.size() - zahl.find_last_not_of('0') - 1)) : 1;
 }
 

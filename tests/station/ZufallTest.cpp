@@ -3,6 +3,7 @@
 #include <random>
 
 #include "engine/Zahlen.h"
+#include "station/Verlauf.h"
 #include "tests/station/Tisch.h"
 
 namespace vesk {
@@ -16,9 +17,12 @@ class Zufallsbenutzer : public Tisch {
 
   void Handeln() {
     letzte = Zahl(taten_.size());
+    const Station vorher = s;
     antworten = {Zahl(2) == 0 ? Antwort::Ja : Antwort::Nein, Zahl(2) == 0 ? Antwort::Ja : Antwort::Nein};
     gesagt.clear();
     taten_[letzte]();
+    verlauf_.Merken(vorher, s);
+    if (Zahl(500) == 0) HinUndHer();
   }
 
   void Pruefen() {
@@ -41,6 +45,23 @@ class Zufallsbenutzer : public Tisch {
   std::size_t letzte = 0;
 
  private:
+  /// Takes back some steps and repeats as many: what the user entered is there again. Then goes back once
+  /// more.
+  void HinUndHer() {
+    Station jetzt = s;
+    const std::size_t schritte = 1 + Zahl(150);
+    std::size_t zurueck = 0;
+    while (zurueck < schritte && verlauf_.Zurueck(s)) ++zurueck;
+    for (std::size_t i = 0; i < zurueck; ++i) ASSERT_TRUE(verlauf_.Vor(s));
+    if (zurueck == 0) return;
+    jetzt.inArbeit.reset();
+    jetzt.UserGeaendert = true;
+    jetzt.winkel.bearbeitet = s.winkel.bearbeitet;
+    ASSERT_EQ(s, jetzt);
+    verlauf_.Zurueck(s);
+    ASSERT_NE(s, jetzt);
+  }
+
   std::size_t Zahl(std::size_t grenze) { return zufall_() % grenze; }
   int Nummer(std::size_t grenze) { return static_cast<int>(Zahl(grenze)); }
   int Spalte() { return Nummer(7) + 1; }
@@ -128,6 +149,7 @@ class Zufallsbenutzer : public Tisch {
       [this] { Zahl(20) == 0 ? Tun(DatenblattLoeschen) : Verlassen(); },
   };
   std::mt19937 zufall_;
+  Verlauf verlauf_;
 };
 
 /// VESK_ZUFALL: number of actions, 100,000 unless told otherwise.

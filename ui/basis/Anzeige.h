@@ -18,11 +18,12 @@ void Schreiben(QLabel& label, const std::string& text);
 void Schreiben(QAbstractButton& knopf, const std::string& text);
 
 /// Background through the palette (Base of fields, Button of buttons, Window of labels). The text is black,
-/// so that pale colours stay readable in a dark theme.
+/// so that pale colours stay readable in a dark theme. A field whose colour warns bears a sign, too.
 void Faerben(QWidget& widget, const QColor& grund, const QColor& schrift = Qt::black);
 /// Background and text colour of the theme again.
 void ThemaFaerben(QWidget& widget);
-/// A result that does not belong to the inputs beside it is grey and bears the property "Veraltet".
+/// A result that does not belong to the inputs beside it is grey and slanted, and bears the property
+/// "Veraltet".
 void ErgebnisFaerben(QLineEdit& feld, const QColor& grund, bool veraltet, const QColor& schrift = Qt::black);
 
 /// Also takes the mark from the only checked button of an exclusive group.

@@ -1,6 +1,9 @@
 #include "ui/basis/Feldhilfe.h"
 
+#include <QHelpEvent>
 #include <QString>
+#include <QToolTip>
+#include <QVariant>
 #include <QWidget>
 
 namespace vesk {
@@ -27,7 +30,35 @@ struct Controlname {
   int index = 0;
 };
 
+constexpr const char* Grundeigenschaft = "Sperrgrund";
+constexpr const char* Beschreibungseigenschaft = "Beschreibung";  // of the control while it can be used
+
+class Grundzeiger : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* objekt, QEvent* ereignis) override {
+    const QString grund = objekt->property(Grundeigenschaft).toString();
+    if (ereignis->type() != QEvent::ToolTip || grund.isEmpty()) return false;
+    QToolTip::showText(static_cast<QHelpEvent*>(ereignis)->globalPos(), grund);
+    return true;
+  }
+};
+
 }  // namespace
+
+void Sperren(QWidget& control, const QString& grund) {
+  control.setEnabled(grund.isEmpty());
+  const QVariant bisher = control.property(Grundeigenschaft);
+  if (!bisher.isValid()) control.installEventFilter(new Grundzeiger(&control));
+  if (bisher.isValid() && bisher.toString() == grund) return;
+  if (bisher.toString().isEmpty())
+    control.setProperty(Beschreibungseigenschaft, control.accessibleDescription());
+  control.setProperty(Grundeigenschaft, grund);
+  control.setAccessibleDescription(grund.isEmpty() ? control.property(Beschreibungseigenschaft).toString()
+                                                   : grund);
+}
 
 void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool an) {
   for (QWidget* kind : fenster.findChildren<QWidget*>()) {
@@ -36,7 +67,8 @@ void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool a
       if (!name.Heisst(zeile.name, zeile.teiler, zeile.rest)) continue;
       const QString text = zeile.text.toString();
       if (const QString tip = an ? text : QString(); kind->toolTip() != tip) kind->setToolTip(tip);
-      if (kind->accessibleDescription() != text) kind->setAccessibleDescription(text);
+      const bool gesperrt = !kind->property(Grundeigenschaft).toString().isEmpty();
+      if (!gesperrt && kind->accessibleDescription() != text) kind->setAccessibleDescription(text);
     }
   }
 }

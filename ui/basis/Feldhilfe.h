@@ -2,6 +2,8 @@
 #include <QStringView>
 #include <span>
 
+#include "platform/Plattform.h"
+
 class QWidget;
 
 namespace vesk {
@@ -20,14 +22,15 @@ struct Feldhilfe {
 /// are told them in both cases.
 void TooltipsSetzen(QWidget& fenster, std::span<const Feldhilfe> tabelle, bool an);
 
+/// Disables a control and says why, instead of its tooltip and also when tooltips are off; with no reason it
+/// can be used.
+void Sperren(QWidget& control, const QString& grund);
+
 /// One row of a window's table of help context numbers.
 struct Hilfenummer {
   QStringView name;
   int kontext;
 };
-
-/// Name of the dynamic property that carries a control's help context number.
-inline constexpr const char* HilfekontextEigenschaft = "HelpContextID";
 
 void HilfenummernSetzen(QWidget& fenster, std::span<const Hilfenummer> tabelle);
 

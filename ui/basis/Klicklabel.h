@@ -3,7 +3,8 @@
 
 namespace vesk {
 
-/// Label that answers a mouse press; used for switches and column heads.
+/// Label that answers a mouse press and, where Tab reaches it, blank and Enter; used for switches and column
+/// heads.
 class Klicklabel : public QLabel {
   Q_OBJECT
  public:
@@ -13,6 +14,7 @@ class Klicklabel : public QLabel {
   void geklickt(Qt::MouseButton taste);
 
  protected:
+  void keyPressEvent(QKeyEvent* ereignis) override;
   void mousePressEvent(QMouseEvent* ereignis) override;
 };
 

@@ -1,10 +1,11 @@
 #pragma once
+#include <QMenu>
 #include <QStringView>
 #include <span>
 
 #include "ui/basis/Ablauf.h"
 
-class QMenu;
+class QMenuBar;
 
 namespace vesk {
 
@@ -15,7 +16,7 @@ struct Menueeintrag {
   void (*tun)(Ablauf&) = nullptr;
   QStringView gesperrt{};  ///< why the entry cannot be used: its tooltip
   bool schalter = false;   ///< bears a check mark
-  QStringView taste{};     ///< shortcut
+  QStringView taste{};     ///< shown beside the entry; what it does stands with the keys of all windows
 };
 
 /// For the table: an entry that stands for one command, or for one action on the station.
@@ -28,6 +29,25 @@ void Tuend(Ablauf& ablauf) {
   ablauf.Tun(handlung);
 }
 
-void MenueFuellen(QMenu& menue, std::span<const Menueeintrag> eintraege, Ablauf& ablauf);
+/// Menu whose access keys act at once, also where several texts claim the same letter: the first entry has
+/// it, a later one is shown with the first letter of its text that nobody claims. A disabled entry says why
+/// (its tooltip) when it is reached, and so does the title of a menu that is disabled as a whole.
+class Fenstermenue : public QMenu {
+  Q_OBJECT
+ public:
+  Fenstermenue(const QString& titel, QWidget* eltern);
+
+  /// The text that an entry is shown with.
+  QString Gezeigt(const QAction& eintrag) const;
+
+ protected:
+  void initStyleOption(QStyleOptionMenuItem* option, const QAction* aktion) const override;
+  void keyPressEvent(QKeyEvent* ereignis) override;
+  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+};
+
+/// A menu of this name at the end of the bar.
+Fenstermenue& MenueAnlegen(QMenuBar& leiste, const QString& name, const QString& titel,
+                           std::span<const Menueeintrag> eintraege, Ablauf& ablauf);
 
 }  // namespace vesk

@@ -12,7 +12,16 @@ class Rollseite : public QScrollArea {
     setFocusPolicy(Qt::NoFocus);
     setWidget(inhalt);
   }
+  /// The screen has room for the contents: the window cannot be made smaller than they are.
+  void Ganz() { ganz_ = true; }
+
   QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize minimumSizeHint() const override {
+    return ganz_ ? widget()->minimumSizeHint() : QScrollArea::minimumSizeHint();
+  }
+
+ private:
+  bool ganz_ = false;
 };
 
 }  // namespace vesk

@@ -2,14 +2,15 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Farben.h"
+#include "ui/basis/Zugang.h"
 
 namespace vesk {
 
 Spaltenkopf::Spaltenkopf(QWidget* eltern) : Klicklabel(eltern) {
+  ZugangsrolleSetzen(*this, QAccessible::Button);
   setAlignment(Qt::AlignCenter);
   setFocusPolicy(Qt::TabFocus);
   // The press of the right button asks a question; no menu may open above it.
@@ -31,11 +32,6 @@ void Spaltenkopf::Markieren(bool aktuell) {
 
 void Spaltenkopf::keyPressEvent(QKeyEvent* ereignis) {
   switch (ereignis->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      Q_EMIT geklickt(Qt::LeftButton);
-      return;
     case Qt::Key_Delete:
       Q_EMIT geklickt(Qt::RightButton);
       return;
@@ -44,24 +40,16 @@ void Spaltenkopf::keyPressEvent(QKeyEvent* ereignis) {
   }
 }
 
-void Spaltenkopf::focusInEvent(QFocusEvent* ereignis) {
-  Klicklabel::focusInEvent(ereignis);
-  update();
-}
-
-void Spaltenkopf::focusOutEvent(QFocusEvent* ereignis) {
-  Klicklabel::focusOutEvent(ereignis);
+void Spaltenkopf::Zeichnen(const QString& zeichen) {
+  if (zeichen == zeichen_) return;
+  zeichen_ = zeichen;
   update();
 }
 
 void Spaltenkopf::paintEvent(QPaintEvent* ereignis) {
   Klicklabel::paintEvent(ereignis);
-  if (!hasFocus()) return;
-  QPainter maler(this);
-  QStyleOptionFocusRect rahmen;
-  rahmen.initFrom(this);
-  rahmen.state |= QStyle::State_KeyboardFocusChange;
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &rahmen, &maler, this);
+  QPainter(this).drawText(contentsRect().adjusted(0, 0, -fontMetrics().averageCharWidth() / 2, 0),
+                          Qt::AlignRight | Qt::AlignVCenter, zeichen_);
 }
 
 }  // namespace vesk

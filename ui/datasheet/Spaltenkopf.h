@@ -12,12 +12,15 @@ class Spaltenkopf : public Klicklabel {
 
   /// Head of the current column: bordered and green; otherwise flat in the theme's colour.
   void Markieren(bool aktuell);
+  /// Signs beside the letter, for what the colours of the column say.
+  void Zeichnen(const QString& zeichen);
 
  protected:
   void keyPressEvent(QKeyEvent* ereignis) override;
-  void focusInEvent(QFocusEvent* ereignis) override;
-  void focusOutEvent(QFocusEvent* ereignis) override;
   void paintEvent(QPaintEvent* ereignis) override;
+
+ private:
+  QString zeichen_;
 };
 
 }  // namespace vesk

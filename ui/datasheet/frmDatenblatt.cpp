@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QScreen>
 #include <cmath>
 
 #include "engine/Zahlen.h"
@@ -16,12 +15,15 @@
 #include "station/Operator.h"
 #include "station/Papiere.h"
 #include "station/Spalten.h"
+#include "station/Spaltenstand.h"
 #include "station/Vorschau.h"
 #include "ui/basis/Anzeige.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Feldfolge.h"
 #include "ui/basis/Feldhilfe.h"
 #include "ui/basis/Menue.h"
+#include "ui/basis/Zugang.h"
 #include "ui/datasheet/Spaltenkopf.h"
 #include "ui/datasheet/Zellenfeld.h"
 
@@ -86,12 +88,10 @@ QColor Grundfarbe(const Spaltenfarben& spalte, int zeile) {
 }  // namespace
 
 frmDatenblatt::frmDatenblatt(Ablauf& ablauf, Signalton& ton, QWidget* eltern)
-    : QMainWindow(eltern), ablauf_(ablauf) {
+    : QMainWindow(eltern), ablauf_(ablauf), lblSpaltenstand(new QLabel(this)) {
   setObjectName(u"frmDatenblatt"_s);
   setWindowTitle(u"Datenblatt  Vfg 306/97 Anlage Blatt 5.2"_s);
-  QMenu* menue = menuBar()->addMenu(u"&Datei"_s);
-  menue->setObjectName(u"mnuDatei"_s);
-  MenueFuellen(*menue, Menue, ablauf_);
+  MenueAnlegen(*menuBar(), u"mnuDatei"_s, u"&Datei"_s, Menue, ablauf_);
 
   auto* flaeche = new QWidget(this);
   auto* gitter = new QGridLayout(flaeche);
@@ -103,10 +103,17 @@ frmDatenblatt::frmDatenblatt(Ablauf& ablauf, Signalton& ton, QWidget* eltern)
     beschriftung->setBuddy(txtA[Zellenindex(1, Zeile(zeile))]);
     gitter->addWidget(beschriftung, zeile, 0);
   }
-  gitter->addWidget(OptionsrahmenAnlegen(), AnzahlZeilen + 1, 0, 1, AnzahlSpalten + 1);
-  gitter->setRowStretch(AnzahlZeilen + 2, 1);
+  lblSpaltenstand->setObjectName(u"lblSpaltenstand"_s);
+  lblSpaltenstand->setWordWrap(true);
+  gitter->addWidget(lblSpaltenstand, AnzahlZeilen + 1, 0, 1, AnzahlSpalten + 1);
+  gitter->addWidget(OptionsrahmenAnlegen(), AnzahlZeilen + 2, 0, 1, AnzahlSpalten + 1);
+  gitter->setRowStretch(AnzahlZeilen + 3, 1);
   setCentralWidget(flaeche);
-  resize(sizeHint().boundedTo(screen()->availableSize()));
+  auto* ansage = new Ansage(this);
+  for (std::size_t i = 0; i < AnzahlZellen; ++i) {
+    if (i % AnzahlZeilen + 1 >= ZeileOhneHSM) ansage->Beobachten(*txtA[i]);
+  }
+  Einpassen(*this);
 
   HilfenummernSetzen(*this, Hilfenummern);
   txtA[0]->setFocus();
@@ -123,7 +130,6 @@ void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, int spalte, Signalton& to
   auto* kopf = new Spaltenkopf(flaeche);
   kopf->setObjectName(u"lblSpalte_"_s + QString::number(spalte - 1));
   kopf->setText(buchstabe);
-  kopf->setAccessibleName(u"Spalte "_s + buchstabe);
   kopf->setAccessibleDescription(u"Eingabetaste berechnet die Spalte, Entfernen löscht die Spalte"_s);
   connect(kopf, &Spaltenkopf::geklickt, this, [this, spalte](Qt::MouseButton taste) {
     ablauf_.Tun(Mit(taste == Qt::LeftButton ? KopfGeklickt : SpalteLoeschen, spalte));
@@ -140,10 +146,10 @@ void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, int spalte, Signalton& to
     zelle->setObjectName(u"txtA_"_s + QString::number(index));
     zelle->setAccessibleName(u"Spalte "_s + buchstabe + u", "_s + Text(art.beschriftung));
     zelle->setMaxLength(int(MaxZellenlaenge));
-    zelle->setMinimumWidth(fontMetrics().averageCharWidth() * 9);
+    MindestensBreit(*zelle, 9);
     zelle->kommaWirdPunkt = art.numerisch;
     connect(zelle, &QLineEdit::textEdited, this, [this, index](const QString& text) {
-      ablauf_.Tun(Mit(ZelleGetippt, index, text.toStdString()));
+      ablauf_.TunBeimTippen(*txtA[index], Mit(ZelleGetippt, index, text.toStdString()));
     });
     connect(zelle, &Zellenfeld::geklickt, this, [this, spalte] { ablauf_.Tun(Mit(ZelleGeklickt, spalte)); });
     txtA[index] = zelle;
@@ -155,6 +161,7 @@ void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, int spalte, Signalton& to
 
 QWidget* frmDatenblatt::OptionsrahmenAnlegen() {
   auto* rahmen = new QGroupBox(this);
+  rahmen->setAccessibleName(u"Optionen"_s);
   rahmen->setObjectName(u"rhmOptionen"_s);
   chkOptionen = new QCheckBox(u"Optionen berücksichtigen"_s, rahmen);
   chkOptionen->setObjectName(u"chkOptionen"_s);
@@ -183,11 +190,21 @@ void frmDatenblatt::closeEvent(QCloseEvent* ereignis) {
   ablauf_.Tun(DatenblattVerbergen);
 }
 
+void frmDatenblatt::changeEvent(QEvent* ereignis) {
+  QMainWindow::changeEvent(ereignis);
+  if (ereignis->type() != QEvent::FontChange) return;
+  for (Zellenfeld* zelle : txtA) zelle->Einpassen(font());
+}
+
 void frmDatenblatt::Zeigen(const Station& station) {
   for (int spalte = 1; spalte <= AnzahlSpalten; ++spalte) SpalteZeigen(station, spalte);
   // A record may hold a number beyond all bounds; like every factor above 1 it does not count.
   const float faktor = Spaltenfaktor(station, station.werte.Spalte);
   Schreiben(*lblModIdx, "Faktor für Sendeart: " + Formatieren(std::isfinite(faktor) ? faktor : 1.0F));
+  const int aktuell = station.werte.Spalte;
+  Schreiben(*lblSpaltenstand, aktuell != 0
+                                  ? Spaltenstand(station, aktuell)
+                                  : "Keine Spalte ist aktuell; ein Klick oder Strg+1 bis 7 wählt eine.");
   chkOptionen->setChecked(station.OptionenBeruecksichtigen);
   if (station.titelGesetzt) setWindowTitle(Text(TitelDatenblatt(station)));
   if (tooltips_ != station.einstellungen.ToolTips) {
@@ -200,7 +217,12 @@ void frmDatenblatt::SpalteZeigen(const Station& station, int spalte) {
   const Spaltenfarben& toene = station.spaltenfarben.at(std::size_t(spalte) - 1);
   const QColor schrift = toene.rueckwaerts ? farben::Tuerkis : QColor(Qt::black);
   const bool veraltet = SpalteVeraltet(station, spalte);
-  lblSpalte.at(std::size_t(spalte) - 1)->Markieren(spalte == station.werte.Spalte);
+  Spaltenkopf& kopf = *lblSpalte.at(std::size_t(spalte) - 1);
+  const bool aktuell = spalte == station.werte.Spalte;
+  kopf.Markieren(aktuell);
+  kopf.Zeichnen((toene.ohneHSM == Toenung::Kraeftig ? u"<1"_s : QString()) +
+                (toene.rueckwaerts ? u" ↩"_s : QString()));
+  kopf.setAccessibleName(Text(Spaltenstand(station, spalte)) + (aktuell ? u", aktuell"_s : QString()));
   for (int zeile = 1; zeile <= AnzahlZeilen; ++zeile) {
     const std::size_t index = Zellenindex(spalte, Zeile(zeile));
     Schreiben(*txtA[index], station.Zellen[index]);

@@ -29,6 +29,7 @@ class frmDatenblatt : public QMainWindow {
   void Hinzeigen(const InZelle& ort);
 
  protected:
+  void changeEvent(QEvent* ereignis) override;
   void closeEvent(QCloseEvent* ereignis) override;
 
  private:
@@ -43,6 +44,7 @@ class frmDatenblatt : public QMainWindow {
   std::array<Zellenfeld*, AnzahlZellen> txtA{};
   QCheckBox* chkOptionen = nullptr;
   QLabel* lblModIdx = nullptr;
+  QLabel* lblSpaltenstand;
 };
 
 }  // namespace vesk

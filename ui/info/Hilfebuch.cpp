@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextDocument>
 #include <algorithm>
@@ -18,12 +19,16 @@ const QString& Kontextdatei() {
   return name;
 }
 
+QDir Bilderordner(const QString& verzeichnis) {
+  return QDir(verzeichnis + u"/bilder"_s);
+}
+
 QString KontextseitenName(int nummer) {
   return u"kontext-%1.html"_s.arg(nummer);
 }
 
-/// First numbers of the blocks, one block a window.
-constexpr int Blockanfaenge[] = {1001, 2001, 2100, 3001, 4001, 5001};
+/// First numbers of the blocks, one block a window, and that of the boxes.
+constexpr int Blockanfaenge[] = {1001, 2001, 2100, 3001, 4001, 5001, 6001, 7001, 8001};
 
 /// About `Umfeld` characters of `text` on both sides of `stelle`, cut at blanks.
 QString Auszug(const QString& text, qsizetype stelle) {
@@ -56,7 +61,14 @@ Hilfebuch::Hilfebuch(QString verzeichnis) : verzeichnis_(std::move(verzeichnis))
 std::optional<QString> Hilfebuch::Lesen(const QString& name) const {
   QFile datei(QDir(verzeichnis_).filePath(name));
   if (name.contains(u'/') || !datei.open(QIODevice::ReadOnly)) return std::nullopt;
-  return QString::fromUtf8(datei.readAll());
+  QString text = QString::fromUtf8(datei.readAll());
+  static const QRegularExpression bildabsatz(u"<p><img [^>]*></p>\n"_s);
+  if (!Bilderordner(verzeichnis_).exists()) text.remove(bildabsatz);
+  return text;
+}
+
+QImage Hilfebuch::Bild(const QString& name) const {
+  return QImage(Bilderordner(verzeichnis_).filePath(QFileInfo(name).fileName()));
 }
 
 bool Hilfebuch::Vorhanden(const QString& hilfedatei) const {

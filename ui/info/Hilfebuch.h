@@ -1,4 +1,5 @@
 #pragma once
+#include <QImage>
 #include <QMap>
 #include <QString>
 #include <optional>
@@ -21,7 +22,8 @@ struct Fundstelle {
 
 /// The help pages of a directory: HTML files, their order in "inhalt.txt" (one file name a line, a tab for
 /// each level) and the context entries, the numbered <div>s of "kontext.html", each of which is a page of its
-/// own besides ("kontext-1001.html"). Nothing is read before it is asked for.
+/// own besides ("kontext-1001.html"). Pictures lie in "bilder"; a directory without them makes pages without
+/// them. Nothing is read before it is asked for.
 class Hilfebuch {
  public:
   explicit Hilfebuch(QString verzeichnis);
@@ -31,6 +33,8 @@ class Hilfebuch {
   const std::vector<Hilfeseite>& Inhalt();
   /// HTML of a page; nothing when there is none of that name.
   std::optional<QString> Html(const QString& seite);
+  /// The picture "bilder/NAME"; a null image when there is none.
+  QImage Bild(const QString& name) const;
   /// Numbers that have a context entry, in the order of the file.
   const std::vector<int>& Kontextnummern();
   /// Page for a context number; a number without an entry gets the first one of its block.

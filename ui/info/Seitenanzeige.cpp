@@ -1,5 +1,6 @@
 #include "ui/info/Seitenanzeige.h"
 
+#include <QScrollBar>
 #include <QTextBlock>
 #include <algorithm>
 
@@ -8,6 +9,24 @@
 using namespace Qt::StringLiterals;
 
 namespace vesk {
+
+namespace {
+
+/// Gives `dokument` the pictures that `bild` has for their names.
+template <typename Bildquelle>
+void BilderErsetzen(QTextDocument& dokument, const Bildquelle& bild) {
+  for (QTextBlock block = dokument.begin(); block.isValid(); block = block.next()) {
+    for (auto stueck = block.begin(); !stueck.atEnd(); ++stueck) {
+      const QTextImageFormat format = stueck.fragment().charFormat().toImageFormat();
+      if (!format.isValid()) continue;
+      const QUrl adresse = dokument.baseUrl().resolved(QUrl(format.name()));
+      dokument.addResource(QTextDocument::ImageResource, adresse, bild(format.name()));
+      dokument.markContentsDirty(block.position(), block.length());
+    }
+  }
+}
+
+}  // namespace
 
 QUrl Seitenadresse(const QString& seite) {
   return QUrl(u"hilfe:/"_s + seite);
@@ -22,8 +41,35 @@ Seitenanzeige::Seitenanzeige(Hilfebuch& buch, QWidget* eltern) : QTextBrowser(el
 }
 
 QVariant Seitenanzeige::loadResource(int art, const QUrl& adresse) {
+  if (art == QTextDocument::ImageResource) return Bild(adresse.path());
   if (art != QTextDocument::HtmlResource) return {};
   return buch_.Html(Seitenname(adresse)).value_or(QString());
+}
+
+QImage Seitenanzeige::Bild(const QString& name) const {
+  QImage bild = buch_.Bild(name);
+  // The bar appears only when the page is laid out.
+  const QScrollBar* leiste = verticalScrollBar();
+  const int platz = viewport()->width() - (leiste->isVisible() ? 0 : leiste->sizeHint().width()) -
+                    2 * static_cast<int>(document()->documentMargin());
+  return bild.width() > platz && platz > 0 ? bild.scaledToWidth(platz, Qt::SmoothTransformation) : bild;
+}
+
+void Seitenanzeige::resizeEvent(QResizeEvent* ereignis) {
+  QTextBrowser::resizeEvent(ereignis);
+  BilderErsetzen(*document(), [this](const QString& name) { return Bild(name); });
+}
+
+std::unique_ptr<QTextDocument> Seitenanzeige::Druckfassung() const {
+  constexpr double Blattbreite = 640;  // of A4 within margins of 2 cm, in pixels of 96 dpi
+  std::unique_ptr<QTextDocument> blatt(document()->clone());
+  blatt->setBaseUrl(document()->baseUrl());
+  BilderErsetzen(*blatt, [this](const QString& name) {
+    QImage bild = buch_.Bild(name);
+    bild.setDevicePixelRatio(std::max(1.0, bild.width() / Blattbreite));
+    return bild;
+  });
+  return blatt;
 }
 
 void Seitenanzeige::Hervorheben(const QString& begriff) {

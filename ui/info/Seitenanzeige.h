@@ -1,11 +1,13 @@
 #pragma once
 #include <QTextBrowser>
+#include <memory>
 
 namespace vesk {
 
 class Hilfebuch;
 
-/// Shows pages of the help under addresses "hilfe:/name.html". Links are told, not followed.
+/// Shows pages of the help under addresses "hilfe:/name.html", pictures at most as wide as itself. Links are
+/// told, not followed.
 class Seitenanzeige : public QTextBrowser {
   Q_OBJECT
  public:
@@ -17,9 +19,15 @@ class Seitenanzeige : public QTextBrowser {
   void Hervorheben(const QString& begriff);
   /// Goes to the next marked place, after the last one to the first.
   void NaechsteMarkierung();
+  /// The page as it is printed: pictures at most as wide as the paper, in their full resolution.
+  std::unique_ptr<QTextDocument> Druckfassung() const;
+
+ protected:
+  void resizeEvent(QResizeEvent* ereignis) override;
 
  private:
   void ZurMarkierung(int nummer);
+  QImage Bild(const QString& name) const;
 
   Hilfebuch& buch_;
   int markierung_ = 0;

@@ -20,6 +20,7 @@
 
 #include "platform/Drucker.h"
 #include "platform/Plattform.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/info/Hilfebuch.h"
 #include "ui/info/Seitenanzeige.h"
 
@@ -52,7 +53,7 @@ frmHilfe::frmHilfe(Hilfebuch& buch, Meldungsboxen& boxen, Drucker& drucker, QWid
 }
 
 void frmHilfe::Drucken() {
-  const Druckausgang ausgang = drucker_.TextDrucken(*anzSeite->document(), windowTitle());
+  const Druckausgang ausgang = drucker_.TextDrucken(*anzSeite->Druckfassung(), windowTitle());
   if (const auto meldung = Druckmeldung(ausgang)) boxen_.Zeigen(*meldung);
 }
 
@@ -96,10 +97,18 @@ void frmHilfe::MenuesAufbauen() {
   eintrag(hilfe, u"mnuHilfeBenutzen"_s, u"Hilfe &benutzen"_s, Qt::Key_F1,
           [this] { Zeigen(u"hilfe-benutzen.html"_s); });
 
-  zurueck->setEnabled(false);
-  vor->setEnabled(false);
-  connect(anzSeite, &QTextBrowser::backwardAvailable, zurueck, &QAction::setEnabled);
-  connect(anzSeite, &QTextBrowser::forwardAvailable, vor, &QAction::setEnabled);
+  const auto erlauben = [](QAction* aktion, const QString& grund) {
+    return [=](bool an) {
+      aktion->setEnabled(an);
+      aktion->setToolTip(an ? QString() : grund);
+    };
+  };
+  const auto zurueckErlauben = erlauben(zurueck, u"Davor ist keine Seite gezeigt worden."_s);
+  const auto vorErlauben = erlauben(vor, u"Danach ist keine Seite gezeigt worden."_s);
+  zurueckErlauben(false);
+  vorErlauben(false);
+  connect(anzSeite, &QTextBrowser::backwardAvailable, zurueck, zurueckErlauben);
+  connect(anzSeite, &QTextBrowser::forwardAvailable, vor, vorErlauben);
   zurueck->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
   vor->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
   anfang->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
@@ -129,11 +138,18 @@ void frmHilfe::AnsichtAufbauen() {
 
   const QFontMetrics mass = fontMetrics();
   anzSeite->document()->setDocumentMargin(mass.height());
-  const int links = mass.averageCharWidth() * 48;
+  const auto links = [this, inhalt = static_cast<const QAbstractItemView*>(treInhalt)] {
+    return inhalt->sizeHintForColumn(0) + 2 * fontMetrics().height();  // and its scroll bar
+  };
   const int rechts = mass.averageCharWidth() * 110;
   const QSize platz = screen()->availableSize() * 9 / 10;
-  resize(QSize(links + rechts, mass.height() * 44).boundedTo(platz));
-  teiler->setSizes({width() * links / (links + rechts), width() * rechts / (links + rechts)});
+  resize(QSize(links() + rechts, mass.height() * 44).boundedTo(platz));
+  const int hoechstens = width() * 2 / 5;
+  for (const qreal faktor : {0.9, 0.8, 0.7, 0.6}) {
+    if (links() > hoechstens) treInhalt->setFont(Vergroessert(font(), faktor));
+  }
+  const int breite = std::min(links(), hoechstens);
+  teiler->setSizes({breite, width() - breite});
 }
 
 QWidget* frmHilfe::InhaltAufbauen() {

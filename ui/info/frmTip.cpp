@@ -78,7 +78,7 @@ void frmTip::Aufbauen() {
 }
 
 void frmTip::NaechsterTip() {
-  cmdNaechsterTip->setEnabled(tips_.size() > 1);
+  Sperren(*cmdNaechsterTip, tips_.size() > 1 ? QString() : u"Es gibt keinen weiteren Tip."_s);
   if (tips_.empty()) {
     txtTip->setPlainText(u"Keine Tips gefunden."_s);
     return;

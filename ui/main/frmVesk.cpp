@@ -9,6 +9,7 @@
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Feldfolge.h"
 #include "ui/basis/Klicklabel.h"
+#include "ui/main/Statuszeile.h"
 
 namespace vesk {
 
@@ -23,7 +24,7 @@ void frmVesk::EreignisseVerbinden() {
     const Zahlenfeld* feld = eingaben_.at(i);
     const auto welches = static_cast<Eingabefeld>(i);
     connect(feld, &QLineEdit::textEdited, this, [this, welches](const QString& text) {
-      ablauf_.Tun(Mit(EingabeGetippt, welches, text.toStdString()));
+      ablauf_.TunBeimTippen(Eingabe(welches), Mit(EingabeGetippt, welches, text.toStdString()));
     });
     connect(feld, &Zahlenfeld::gedrueckt, this,
             [this, welches] { ablauf_.Tun(Mit(EingabeGeklickt, welches)); });
@@ -36,6 +37,10 @@ void frmVesk::EreignisseVerbinden() {
   connect(lblQRG, &Klicklabel::geklickt, this, [this] { ablauf_.Tun(AFuUmschalten); });
   connect(cmdBerechnen, &QPushButton::clicked, this, [this] { ablauf_.Tun(BerechnenVerlangt); });
   connect(cmdCopy, &QPushButton::clicked, this, [this] { ablauf_.Tun(InFreieSpalteKopieren); });
+  connect(status_, &Statuszeile::weiter, this, [this](const Schritt& schritt) {
+    if (schritt.tun) return ablauf_.Tun(schritt.tun);
+    Eingabe(schritt.zurLeistung ? Eingabefeld::PWR : Eingabefeld::QRG).setFocus(Qt::TabFocusReason);
+  });
 }
 
 void frmVesk::TastenVerbinden() {
@@ -54,6 +59,9 @@ void frmVesk::TastenVerbinden() {
     setTabOrder(vorher, &Ausgabe(feld));
     vorher = &Ausgabe(feld);
   }
+  // Whoever wants the switches by keys goes back from the first field; nobody passes them on the way down.
+  setTabOrder(lblModus, lblQRG);
+  setTabOrder(lblQRG, &Eingabe(Eingabefeld::QRG));
 }
 
 void frmVesk::QrgFokussieren() {

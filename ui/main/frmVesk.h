@@ -15,6 +15,8 @@ namespace vesk {
 
 class Ablauf;
 class Klicklabel;
+class Statuszeile;
+struct Kataloge;
 
 /// The first fields of Feld are output fields, the others stand elsewhere.
 inline constexpr std::size_t AnzahlAusgaben = static_cast<std::size_t>(Feld::Fernfeld) + 1;
@@ -23,9 +25,10 @@ inline constexpr std::size_t AnzahlAusgaben = static_cast<std::size_t>(Feld::Fer
 class frmVesk : public QMainWindow {
   Q_OBJECT
  public:
-  frmVesk(Ablauf& ablauf, Signalton& ton);
+  frmVesk(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton);
 
   void Zeigen(const Station& s);
+  void VerlaufZeigen(bool zurueck, bool vor);
   void QrgFokussieren();
 
  Q_SIGNALS:
@@ -56,13 +59,16 @@ class frmVesk : public QMainWindow {
   Zahlenfeld& Eingabe(Eingabefeld feld) const { return *eingaben_.at(static_cast<std::size_t>(feld)); }
 
   Ablauf& ablauf_;
+  const Kataloge& kataloge_;
+  std::vector<std::string> zuletzt_;                         ///< as shown
   std::array<Zahlenfeld*, Eingabetexte.size()> eingaben_{};  ///< by Eingabefeld
   std::array<QLineEdit*, AnzahlAusgaben> ausgaben_{};        ///< by Feld
   std::array<QLabel*, 3> koepfe_{};                          ///< from Feld::KopfOhneHSM
   Klicklabel *lblModus = nullptr, *lblQRG = nullptr;
-  QLabel *lblPWR = nullptr, *lblSicherheit = nullptr, *lblStrahlung = nullptr;
+  QLabel *lblPWR = nullptr, *lblSicherheit = nullptr, *lblStrahlung = nullptr, *lblHinweis = nullptr;
   QPushButton *cmdBerechnen = nullptr, *cmdCopy = nullptr;
   QListWidget* List1 = nullptr;
+  Statuszeile* status_ = nullptr;
 };
 
 }  // namespace vesk

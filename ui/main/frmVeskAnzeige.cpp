@@ -1,16 +1,20 @@
 #include <QAction>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPushButton>
 
 #include "station/Datenblatt.h"
 #include "station/Operator.h"
 #include "station/Rechnung.h"
+#include "station/Wegweiser.h"
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Dezimaltrenner.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Klicklabel.h"
 #include "ui/main/Haupthilfe.h"
+#include "ui/main/Hauptmenue.h"
+#include "ui/main/Statuszeile.h"
 #include "ui/main/frmVesk.h"
 
 using namespace Qt::StringLiterals;
@@ -127,6 +131,11 @@ void Markieren(QWidget& feld, Pruefmarke marke) {
   }
 }
 
+/// An empty field of a limit that is not defined says so.
+QString Platzhalter(const QColor& farbe) {
+  return farbe == farben::Grau ? u"(nicht definiert)"_s : QString();
+}
+
 }  // namespace
 
 void frmVesk::Zeigen(const Station& s) {
@@ -138,6 +147,17 @@ void frmVesk::Zeigen(const Station& s) {
   EingabenZeigen(s);
   AusgabenZeigen(s);
   KopierknopfZeigen(s);
+  status_->Zeigen(s, kataloge_);
+  if (zuletzt_ != s.zuletztBenutzt) ZuletztZeigen(*menuBar(), zuletzt_ = s.zuletztBenutzt, ablauf_);
+}
+
+void frmVesk::VerlaufZeigen(bool zurueck, bool vor) {
+  const auto zeigen = [this](const char* name, bool moeglich, const QString& gesperrt) {
+    Aktion(name).setEnabled(moeglich);
+    Aktion(name).setToolTip(moeglich ? QString() : gesperrt);
+  };
+  zeigen("mnuRueckgaengig", zurueck, u"Es ist noch nichts geändert."_s);
+  zeigen("mnuWiederholen", vor, u"Es ist nichts rückgängig gemacht."_s);
 }
 
 void frmVesk::ModusZeigen(const Station& s) {
@@ -146,6 +166,12 @@ void frmVesk::ModusZeigen(const Station& s) {
   Faerben(*lblModus, farben::HellGrau, texte.farbe);
   Beschriften(*lblPWR, Eingabe(Eingabefeld::PWR), texte.lblPWR);
   Schreiben(*lblSicherheit, texte.lblSicherheit);
+  const QString art = s.modus == Modus::Leistung ? u"Sendeleistung %1 [W]"_s : u"Sicherheitsabstand %1 [m]"_s;
+  for (std::size_t i = 0; i < Koepfe.size(); ++i) {
+    QLineEdit& feld = Ausgabe(static_cast<Feld>(static_cast<std::size_t>(Feld::AusgabeOhneHSM) + i));
+    const QString name = art.arg(QLatin1String(Koepfe.at(i)));
+    if (feld.accessibleName() != name) feld.setAccessibleName(name);
+  }
   if (!s.modusGewechselt) return;
   Schreiben(*lblModus, texte.lblModus);
   Aktion("mnuAbstand").setText(QString::fromUtf8(texte.mnuAbstand));
@@ -158,8 +184,13 @@ void frmVesk::SchalterZeigen(const Station& s) {
   Aktion("mnuToolTips").setChecked(e.ToolTips);
   Aktion("mnuMeldungen").setChecked(e.Meldungen);
   Aktion("mnuFenster").setChecked(e.Fenster);
-  for (const char* name : {"mnuDateiLaden", "mnuDateiSpeichern", "mnuDateiSpeichernUnter"}) {
+  const QString erst = u"Erst nach „Antrag stellen“, „Datenblatt ausfüllen“."_s;
+  const std::pair<const char*, QString> dateien[] = {{"mnuDateiLaden", u" Strg+O geht immer."_s},
+                                                     {"mnuDateiSpeichern", u" Strg+S geht immer."_s},
+                                                     {"mnuDateiSpeichernUnter", QString()}};
+  for (const auto& [name, immer] : dateien) {
     Aktion(name).setEnabled(s.fenster.dateimenue);
+    Aktion(name).setToolTip(s.fenster.dateimenue ? QString() : erst + immer);
   }
 }
 
@@ -211,11 +242,13 @@ void frmVesk::AusgabenZeigen(const Station& s) {
     Kopftexte(*s.koepfe, Dezimaltrenner(), texte);
   }
   const Ausgabefarben farbe = FarbenDerAusgaben(s);
-  const bool veraltet = s.ergebnis && !Aktuell(s);
+  const bool veraltet = ErgebnisVeraltet(s);
   for (std::size_t i = 0; i < ausgaben_.size(); ++i) {
     Schreiben(*ausgaben_.at(i), texte[static_cast<Feld>(i)].value_or(""));
     ErgebnisFaerben(*ausgaben_.at(i), farbe.at(i), veraltet);
+    ausgaben_.at(i)->setPlaceholderText(Platzhalter(farbe.at(i)));
   }
+  Schreiben(*lblHinweis, Farbensinn(s));
   for (std::size_t i = 0; i < koepfe_.size(); ++i) {
     const auto feld = static_cast<Feld>(static_cast<std::size_t>(Feld::KopfOhneHSM) + i);
     Schreiben(*koepfe_.at(i), texte[feld].value_or(Koepfe.at(i)));
@@ -229,7 +262,7 @@ void frmVesk::KopierknopfZeigen(const Station& s) {
   const bool kopierbar = Kopierbar(s);
   // Disabling it would send the focus anywhere.
   if (!kopierbar && focusWidget() == cmdCopy) cmdBerechnen->setFocus(Qt::OtherFocusReason);
-  cmdCopy->setEnabled(kopierbar);
+  Sperren(*cmdCopy, QString::fromStdString(WarumNichtKopierbar(s)));
 }
 
 }  // namespace vesk

@@ -5,16 +5,19 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QScreen>
+#include <QStatusBar>
 
 #include "engine/Version.h"
 #include "ui/basis/Anzeige.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Klicklabel.h"
 #include "ui/basis/Programmbild.h"
 #include "ui/basis/Rollseite.h"
+#include "ui/basis/Zugang.h"
 #include "ui/main/Haupthilfe.h"
 #include "ui/main/Hauptmenue.h"
+#include "ui/main/Statuszeile.h"
 #include "ui/main/frmVesk.h"
 
 using namespace Qt::StringLiterals;
@@ -23,9 +26,7 @@ namespace vesk {
 
 namespace {
 
-int Feldbreite(const QWidget& widget) {
-  return widget.fontMetrics().horizontalAdvance(u"0000000000.00"_s);
-}
+constexpr int Feldbreite = 13;  // digits
 
 template <typename Label = QLabel>
 Label* Titel(const QString& name, const QString& text) {
@@ -37,7 +38,9 @@ Label* Titel(const QString& name, const QString& text) {
 /// Long titles break into a second line, so that the window fits a small screen at 150 %.
 void Umbrechen(QLabel& label) {
   label.setWordWrap(true);
-  label.setMinimumWidth(label.fontMetrics().horizontalAdvance(u"Verluste zwischen Sender "_s));
+  MitSchrift(label, [&label] {
+    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(u"Verluste zwischen Sender "_s));
+  });
 }
 
 struct Eingabezeile {
@@ -72,7 +75,8 @@ constexpr std::array<QStringView, AnzahlAusgaben> Ausgabenamen = {
 
 }  // namespace
 
-frmVesk::frmVesk(Ablauf& ablauf, Signalton& ton) : ablauf_(ablauf) {
+frmVesk::frmVesk(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton)
+    : ablauf_(ablauf), kataloge_(kataloge) {
   setObjectName(u"frmVesk"_s);
   setWindowTitle(u"EMVU Sicherheitsabstand (Hauptprogramm)"_s);
   HauptmenueAnlegen(*menuBar(), ablauf);
@@ -93,11 +97,19 @@ frmVesk::frmVesk(Ablauf& ablauf, Signalton& ton) : ablauf_(ablauf) {
   List1->hide();
   setCentralWidget(new Rollseite(flaeche));
 
+  status_ = new Statuszeile(this);
+  statusBar()->addWidget(status_, 1);
+  statusBar()->setSizeGripEnabled(false);
+
+  auto* ansage = new Ansage(this);
+  for (const Feld feld : {Feld::AusgabeOhneHSM, Feld::AusgabeHSMvde, Feld::AusgabeHSM306})
+    ansage->Beobachten(Ausgabe(feld));
+  for (QLineEdit* feld : ausgaben_) ansage->Beobachten(*feld);
   HilfenummernSetzen(*this, HauptHilfenummern());
   EreignisseVerbinden();
   TastenVerbinden();
   Eingabe(Eingabefeld::QRG).setFocus();
-  resize(sizeHint().boundedTo(screen()->availableSize() * 0.95));
+  Einpassen(*this);
 }
 
 QWidget* frmVesk::ModusAnlegen() {
@@ -106,16 +118,21 @@ QWidget* frmVesk::ModusAnlegen() {
   rhmSicherheit->setFrameShape(QFrame::StyledPanel);
   auto* zeile = new QHBoxLayout(rhmSicherheit);
   auto* Picture1 = Titel(u"Picture1"_s, {});
-  Picture1->setPixmap(Programmbild(2 * fontMetrics().height(), devicePixelRatioF()));
+  MitSchrift(*Picture1, [=] {
+    Picture1->setPixmap(Programmbild(2 * Picture1->fontMetrics().height(), Picture1->devicePixelRatioF()));
+  });
   Picture1->setAccessibleName(u"Vesk"_s);
   zeile->addWidget(Picture1);
   lblModus = Titel<Klicklabel>(u"lblModus"_s, u"Berechnung  Sicherheitsabstand"_s);
   lblModus->setAlignment(Qt::AlignCenter);
   lblModus->setCursor(Qt::PointingHandCursor);
-  QFont schrift = lblModus->font();
-  schrift.setPointSizeF(schrift.pointSizeF() * 1.4);
-  schrift.setBold(true);
-  lblModus->setFont(schrift);
+  lblModus->setFocusPolicy(Qt::TabFocus);
+  ZugangsrolleSetzen(*lblModus, QAccessible::Button);
+  MitSchrift(*rhmSicherheit, [=, this] {
+    QFont schrift = Vergroessert(rhmSicherheit->font(), 1.4);
+    schrift.setBold(true);
+    lblModus->setFont(schrift);
+  });
   zeile->addWidget(lblModus, 1);
   return rhmSicherheit;
 }
@@ -129,7 +146,7 @@ QWidget* frmVesk::EingabenAnlegen(Signalton& ton) {
     const Eingabezeile& zeile = Eingabezeilen.at(i);
     auto* feld = new Zahlenfeld(ton, flaeche);
     feld->setObjectName(zeile.feld.toString());
-    feld->setMinimumWidth(Feldbreite(*this));
+    MindestensBreit(*feld, Feldbreite);
     feld->setAlignment(Qt::AlignRight);
     feld->setAccessibleName(zeile.text.toString());
     titel.at(i) = Titel<Klicklabel>(zeile.label.toString(), zeile.text.toString());
@@ -142,20 +159,23 @@ QWidget* frmVesk::EingabenAnlegen(Signalton& ton) {
   Eingabe(Eingabefeld::Gewinn).VorzeichenErlauben(true);
   lblQRG = titel[0];
   lblQRG->setCursor(Qt::PointingHandCursor);
+  lblQRG->setFocusPolicy(Qt::TabFocus);
+  ZugangsrolleSetzen(*lblQRG, QAccessible::Button);
   lblQRG->setProperty("Tag", u"AFu"_s);
   lblPWR = titel[1];
   titel[2]->setProperty("Tag", u"dBi"_s);
 
-  const auto knopf = [&](const QString& name, const QString& text, int spalte, Qt::Alignment lage) {
+  const auto knopf = [&](const QString& name, const QString& text) {
     auto* neu = new QPushButton(text, flaeche);
     neu->setObjectName(name);
-    raster->addWidget(neu, static_cast<int>(Eingabezeilen.size()), spalte, lage);
+    raster->addWidget(neu, raster->rowCount(), 1);
     return neu;
   };
-  cmdBerechnen = knopf(u"cmdBerechnen"_s, u"="_s, 1, {});
+  cmdBerechnen = knopf(u"cmdBerechnen"_s, u"="_s);
   cmdBerechnen->setAccessibleName(u"Berechnen"_s);
+  cmdBerechnen->setDefault(true);
   Faerben(*cmdBerechnen, farben::Grau);
-  cmdCopy = knopf(u"cmdCopy"_s, u"Kopieren in Spalte"_s, 0, Qt::AlignLeft);
+  cmdCopy = knopf(u"cmdCopy"_s, u"Kopieren in Spalte"_s);
   cmdCopy->setEnabled(false);
   raster->setRowStretch(raster->rowCount(), 1);
   return flaeche;
@@ -173,7 +193,7 @@ QWidget* frmVesk::AusgabenAnlegen() {
     feld->setObjectName(name(i));
     feld->setReadOnly(true);
     feld->setAlignment(Qt::AlignRight);
-    feld->setMinimumWidth(Feldbreite(*this));
+    MindestensBreit(*feld, Feldbreite);
     feld->setAccessibleName(Ausgabenamen.at(i).toString());
     ausgaben_.at(i) = feld;
   }
@@ -183,7 +203,8 @@ QWidget* frmVesk::AusgabenAnlegen() {
     koepfe_.at(i)->setAlignment(Qt::AlignCenter);
     raster->addWidget(koepfe_.at(i), 0, static_cast<int>(i) + 1);
   }
-  koepfe_[0]->setMinimumHeight(2 * fontMetrics().lineSpacing());
+  MitSchrift(*koepfe_[0],
+             [kopf = koepfe_[0]] { kopf->setMinimumHeight(2 * kopf->fontMetrics().lineSpacing()); });
 
   const auto zeile = [&](int nummer, QLabel* titel, std::initializer_list<Feld> felder, int spalte) {
     Umbrechen(*titel);
@@ -195,16 +216,23 @@ QWidget* frmVesk::AusgabenAnlegen() {
   zeile(2, Titel(u"lblUss"_s, u"Spitzenspannung Uss [V]"_s), {Feld::UssVDE, Feld::Uss306}, 2);
   lblSicherheit = Titel(u"lblSicherheit"_s, u"Erforderlicher Sicherheitsabstand [m]"_s);
   zeile(3, lblSicherheit, {Feld::AusgabeOhneHSM, Feld::AusgabeHSMvde, Feld::AusgabeHSM306}, 1);
-  raster->setRowMinimumHeight(4, fontMetrics().height());
 
   const auto unten = [&](QLabel* titel, Feld feld, int spalte) {
-    raster->addWidget(titel, 5, spalte);
-    raster->addWidget(&Ausgabe(feld), 6, spalte);
+    raster->addWidget(titel, 4, spalte, Qt::AlignBottom);
+    raster->addWidget(&Ausgabe(feld), 5, spalte);
   };
   lblStrahlung = Titel(u"lblStrahlung"_s, u"Strahlungsleistung EIRP [W]"_s);
   unten(lblStrahlung, Feld::Strahlung, 0);
   unten(Titel(u"lblNahfeld"_s, u"Nahfeld bis [m]"_s), Feld::Nahfeld, 1);
   unten(Titel(u"lblFernfeld"_s, u"Fernfeld ab [m]"_s), Feld::Fernfeld, 2);
+  lblHinweis = Titel(u"lblHinweis"_s, {});
+  lblHinweis->setWordWrap(true);
+  lblHinweis->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  lblHinweis->setTextFormat(Qt::PlainText);
+  raster->addWidget(lblHinweis, 6, 0, 1, 4, Qt::AlignTop);
+  raster->setRowStretch(4, 1);
+  MitSchrift(*lblHinweis,
+             [this] { lblHinweis->setMinimumHeight(2 * lblHinweis->fontMetrics().lineSpacing()); });
   return rhmAusgabe;
 }
 

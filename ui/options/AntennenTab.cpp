@@ -1,7 +1,6 @@
 #include "ui/options/AntennenTab.h"
 
 #include <QFontDatabase>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -13,6 +12,9 @@
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Auswahlliste.h"
+#include "ui/basis/Einpassen.h"
+#include "ui/basis/Feldhilfe.h"
+#include "ui/options/Listenrahmen.h"
 
 namespace vesk {
 
@@ -26,10 +28,10 @@ Liste* Spaltenliste(const QString& name, const QString& beschreibung, QWidget* e
   auto* liste = new Liste(eltern);
   liste->setObjectName(name);
   liste->setAccessibleName(beschreibung);
-  liste->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   liste->setUniformItemSizes(true);
   liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   liste->setTextElideMode(Qt::ElideNone);
+  liste->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
   // Counted by items the scroll range goes wrong with hidden lines.
   liste->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   return liste;
@@ -102,17 +104,13 @@ void AntennenTab::Anordnen() {
   suche->addWidget(txtSuche, 1);
   suche->addWidget(lblTreffer);
 
-  // The frame's caption is the head of both lists: the bands stand below its "MHz".
-  const QString kopf = QString::fromStdString(Antennenkopf());
-  auto* rhmAntennen = new QGroupBox(kopf, this);
+  auto* rhmAntennen = new Listenrahmen(QString::fromStdString(Antennenkopf()), this);
   rhmAntennen->setObjectName(u"rhmAntennen"_s);
+  rhmAntennen->Ausrichten({{LstAntennen, 0}, {LstAntennen, 10}, {List1, 2}, {List1, 12}, {List1, 21}});
   auto* listen = new QHBoxLayout(rhmAntennen);
   listen->addWidget(LstAntennen);
   listen->addWidget(List1, 1);
-  LstAntennen->setFixedWidth(fontMetrics().horizontalAdvance(kopf.left(kopf.indexOf(u"MHz"_s))));
-  const int zeichen = List1->fontMetrics().horizontalAdvance(u'0');
-  List1->setMinimumWidth(32 * zeichen);
-  LstAntennen->setMinimumHeight(14 * LstAntennen->fontMetrics().height());
+  MitSchrift(*this, [this] { ListenBemessen(); });
 
   auto* lblAntDaten = Label(u"lblAntDaten"_s,
                             u"Antennendaten ohne Gewähr. "
@@ -125,13 +123,27 @@ void AntennenTab::Anordnen() {
   nehmen->addWidget(cmdAntenne);
   nehmen->addWidget(new QLabel(u"Übernommen:"_s, this));
   nehmen->addWidget(lblAntenne);
-  lblAntenne->setMinimumWidth(14 * zeichen);
+  MindestensBreit(*lblAntenne, 14);
 
   auto* flaeche = new QVBoxLayout(this);
   flaeche->addLayout(suche);
   flaeche->addWidget(rhmAntennen, 1);
   flaeche->addLayout(nehmen);
   flaeche->addWidget(lblAntDaten);
+}
+
+void AntennenTab::ListenBemessen() {
+  QFont schrift = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  schrift.setPointSizeF(fontInfo().pointSizeF());
+  for (QListWidget* liste : {static_cast<QListWidget*>(LstAntennen), static_cast<QListWidget*>(List1)}) {
+    liste->setFont(schrift);
+  }
+  const int zeichen = List1->fontMetrics().horizontalAdvance(u'0');
+  const int rollbalken = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  LstAntennen->setFixedWidth(24 * zeichen + rollbalken);
+  LstAntennen->setMinimumHeight(14 * LstAntennen->fontMetrics().height());
+  List1->setMinimumWidth(30 * zeichen);
+  List1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
 }
 
 void AntennenTab::Verbinden() {
@@ -157,7 +169,9 @@ void AntennenTab::Zeigen(const Station& s) {
   List1->setCurrentRow(wahl.markiert);
   Schreiben(*lblGewaehlt, gewaehlt ? "Gewählt: " + antenne.hersteller + ' ' + antenne.typ : std::string());
   Schreiben(*lblAntenne, s.Datenblattspalten.front().Antenne);
-  cmdAntenne->setEnabled(s.antenneNehmbar);
+  const QString grund =
+      gewaehlt ? u"Die gewählte Antenne ist schon genommen."_s : u"Erst eine Antenne wählen."_s;
+  Sperren(*cmdAntenne, s.antenneNehmbar ? QString() : grund);
 }
 
 void AntennenTab::ListeEingrenzen() {

@@ -23,6 +23,7 @@ class AntennenTab : public QWidget {
  private:
   void Bauen();
   void Anordnen();
+  void ListenBemessen();
   void Verbinden();
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 

@@ -9,9 +9,12 @@
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Auswahlliste.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Feldfolge.h"
+#include "ui/basis/Feldhilfe.h"
 #include "ui/basis/Zahlenfeld.h"
+#include "ui/basis/Zugang.h"
 
 namespace vesk {
 
@@ -40,6 +43,21 @@ QColor D100Grund(D100Farbe farbe, bool frei) {
   return farbe == D100Farbe::Weiss || frei ? farben::Weiss : farben::HellGrau;
 }
 
+/// What the colours of the tab say, or why it has no result.
+std::string Kabelhinweis(const Station& s, const Kataloge& k) {
+  const Datenblattspalte& kabel = s.Datenblattspalten.front();
+  if (Kabelindex(s, k) < 0) return "Bitte einen Kabeltyp wählen.";
+  if (kabel.KabelLaenge.find_first_of("123456789") == std::string::npos)
+    return "Ohne Kabellänge wird keine Kabeldämpfung berechnet.";
+  if (s.farbeD100 == D100Farbe::Rot) {
+    return AnderesKabelGewaehlt(s, k) ? "! Bitte die Dämpfung je 100 m eingeben."
+                                      : "! Die Kabeltabelle gilt für 1 MHz bis 5 GHz.";
+  }
+  if (KabelAktuell(s)) return {};
+  if (kabel.Kabeldaempfung.empty()) return "Noch nicht berechnet: Bitte „=“ drücken.";
+  return "Veraltet: Die Dämpfung gehört zu anderen Eingaben. Bitte „=“ drücken.";
+}
+
 }  // namespace
 
 KabelTab::KabelTab(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton) : kataloge_(kataloge) {
@@ -52,6 +70,8 @@ void KabelTab::Bauen(Signalton& ton) {
   lstKabel = new Auswahlliste(this);
   lstKabel->setObjectName(u"lstKabel"_s);
   lstKabel->setAccessibleName(u"Kabeltyp"_s);
+  lstKabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  MindestensBreit(*lstKabel, 20);
   for (const std::string& name : kataloge_.kabel.liste) lstKabel->addItem(QString::fromStdString(name));
 
   for (std::size_t i = 0; i < felder_.size(); ++i) {
@@ -60,7 +80,7 @@ void KabelTab::Bauen(Signalton& ton) {
     feld->setObjectName(u"txt"_s + art.name.toString());
     feld->setAccessibleName(art.beschriftung.toString());
     feld->setAlignment(Qt::AlignRight);
-    feld->setFixedWidth(fontMetrics().horizontalAdvance(u"0000000000.00"_s));
+    MindestensBreit(*feld, 13);
     auto* label = beschriftungen_.at(i) = new QLabel(art.beschriftung.toString(), this);
     label->setObjectName(u"lbl"_s + art.name.toString());
     label->setBuddy(feld);
@@ -71,6 +91,12 @@ void KabelTab::Bauen(Signalton& ton) {
   cmdGleich->setObjectName(u"cmdGleich"_s);
   cmdGleich->setAccessibleName(u"Kabeldämpfung berechnen und übernehmen"_s);
   cmdGleich->setAutoDefault(true);
+  cmdGleich->setDefault(true);
+
+  lblKabelhinweis = new QLabel(this);
+  lblKabelhinweis->setObjectName(u"lblKabelhinweis"_s);
+  lblKabelhinweis->setWordWrap(true);
+  lblKabelhinweis->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void KabelTab::Anordnen() {
@@ -88,9 +114,14 @@ void KabelTab::Anordnen() {
       folge.push_back(cmdGleich);
     }
     zeilen->addWidget(beschriftungen_.at(i), zeile, 0);
-    zeilen->addWidget(felder_.at(i), zeile++, 1);
+    zeilen->addWidget(felder_.at(i), zeile, 1);
+    if (felder_.at(i) == FeldVon(Kabelfeld::D100)) zeilen->addWidget(new QLabel(u"dB"_s, this), zeile, 2);
+    ++zeile;
     folge.push_back(felder_.at(i));
   }
+  zeilen->addWidget(lblKabelhinweis, zeile, 0, 1, 3, Qt::AlignTop);
+  MitSchrift(*lblKabelhinweis,
+             [this] { lblKabelhinweis->setMinimumHeight(3 * lblKabelhinweis->fontMetrics().lineSpacing()); });
   zeilen->setRowStretch(zeile, 1);
   new Feldfolge(folge, this);
 
@@ -102,6 +133,9 @@ void KabelTab::Anordnen() {
 }
 
 void KabelTab::Verbinden(Ablauf& ablauf) {
+  auto* ansage = new Ansage(this);
+  for (const Kabelfeld feld : {Kabelfeld::Gesamtdaempfung, Kabelfeld::Kabeldaempfung, Kabelfeld::D100})
+    ansage->Beobachten(*FeldVon(feld));
   Zahlenfeld* txtQRG = FeldVon(Kabelfeld::QRG);
   connect(lstKabel, &Auswahlliste::gewaehlt, this,
           [&ablauf](int zeile) { ablauf.Tun(Mit(KabelGewaehlt, zeile)); });
@@ -109,9 +143,10 @@ void KabelTab::Verbinden(Ablauf& ablauf) {
   connect(cmdGleich, &QPushButton::clicked, this, [&ablauf] { ablauf.Tun(KabelGleich); });
   for (std::size_t i = 0; i < felder_.size(); ++i) {
     const auto feld = static_cast<Kabelfeld>(i);
-    connect(felder_.at(i), &QLineEdit::textEdited, this, [&ablauf, feld](const QString& text) {
-      ablauf.Tun(Mit(KabelfeldGetippt, feld, text.toStdString()));
-    });
+    connect(felder_.at(i), &QLineEdit::textEdited, this,
+            [&ablauf, feld, ort = felder_.at(i)](const QString& text) {
+              ablauf.TunBeimTippen(*ort, Mit(KabelfeldGetippt, feld, text.toStdString()));
+            });
     connect(felder_.at(i), &Zahlenfeld::gedrueckt, this,
             [&ablauf, feld] { ablauf.Tun(Mit(KabelfeldGeklickt, feld)); });
   }
@@ -129,16 +164,12 @@ void KabelTab::Zeigen(const Station& s) {
   const bool frei = AnderesKabelGewaehlt(s, kataloge_);
   for (const Kabelfeld verlust : {Kabelfeld::Kabeldaempfung, Kabelfeld::Gesamtdaempfung}) {
     const bool veraltet = !KabelAktuell(s) && !FeldVon(verlust)->text().isEmpty();
-    if (veraltet) {
-      ErgebnisFaerben(*FeldVon(verlust), farben::Weiss, true);
-    } else {
-      ThemaFaerben(*FeldVon(verlust));
-      FeldVon(verlust)->setProperty("Veraltet", false);
-    }
+    ErgebnisFaerben(*FeldVon(verlust), farben::Weiss, veraltet);
   }
   Zahlenfeld* txtD100 = FeldVon(Kabelfeld::D100);
-  txtD100->setEnabled(frei);
+  Sperren(*txtD100, frei ? QString() : u"Einzugeben nur bei „Anderes Kabel“."_s);
   Faerben(*txtD100, D100Grund(s.farbeD100, frei));
+  Schreiben(*lblKabelhinweis, Kabelhinweis(s, kataloge_));
 }
 
 }  // namespace vesk

@@ -32,6 +32,7 @@ class KabelTab : public QWidget {
   std::array<QLabel*, Kabeltexte.size()> beschriftungen_;
   std::array<Zahlenfeld*, Kabeltexte.size()> felder_;
   QPushButton* cmdGleich;
+  QLabel* lblKabelhinweis;
 };
 
 }  // namespace vesk

@@ -11,8 +11,10 @@
 #include "station/Optionen.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Zahlenfeld.h"
+#include "ui/basis/Zugang.h"
 
 namespace vesk {
 
@@ -73,6 +75,7 @@ SendeartTab::SendeartTab(Ablauf& ablauf, Signalton& ton) {
   txtFaktorB = new Zahlenfeld(ton, this);
   txtFaktorB->setObjectName(u"txtFaktorB"_s);
   txtFaktorB->setAccessibleName(u"Faktor für Sendeart"_s);
+  (new Ansage(this))->Beobachten(*txtFaktorB);
   Anordnen();
   Verbinden(ablauf);
 }
@@ -91,7 +94,7 @@ void SendeartTab::Anordnen() {
   gitter->addWidget(rhmBetriebsart, 2, 0, 1, 2);
 
   const int ziffer = fontMetrics().horizontalAdvance(u'0');
-  txtFaktorB->setFixedWidth(9 * ziffer);
+  GenauBreit(*txtFaktorB, 9);
   auto* ergebnis = new QHBoxLayout;
   ergebnis->addWidget(Beschriftung(u"lblSelectedModes"_s, u"Gewählte Betriebsarten: "_s, *txtSelectedModes));
   ergebnis->addWidget(txtSelectedModes, 1);

@@ -110,6 +110,7 @@ Polardaten WinkelTab::AbstaendeZeigen(const Station& s) {
       kurve.werte.at(i) = wert;
       if (veraltet) kurve.farbe = farben::Veraltet;
     }
+    if (kurve.farbe == farben::Veraltet) kurve.name += u" (veraltet)"_s;
     bild.kurven.push_back(std::move(kurve));
   }
   return bild;

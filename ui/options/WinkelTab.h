@@ -19,7 +19,7 @@ class Zahlenfeld;
 struct Polardaten;
 
 /// Outputs of a sector, from left to right.
-enum Winkelspalten { SpalteEIRP, SpalteOhneHSM, SpalteHSM306, SpalteHSMvde, AnzahlWinkelspalten };
+enum Winkelspalten { SpalteEIRP, SpalteOhneHSM, SpalteHSMvde, SpalteHSM306, AnzahlWinkelspalten };
 
 /// Attenuation of a directional antenna in nine sectors, and the safety distances in each of them.
 class WinkelTab : public QWidget {

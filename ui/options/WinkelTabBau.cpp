@@ -4,9 +4,11 @@
 #include <QPushButton>
 
 #include "ui/basis/Ablauf.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Feldfolge.h"
 #include "ui/basis/Textfeld.h"
 #include "ui/basis/Zahlenfeld.h"
+#include "ui/basis/Zugang.h"
 #include "ui/options/WinkelTab.h"
 #include "ui/options/Winkelbild.h"
 
@@ -19,15 +21,16 @@ namespace {
 struct Ausgabeart {
   QStringView name;
   QStringView kopf;
+  QStringView einheit;
   QStringView beschreibung;
 };
 
 /// In the order of Winkelspalten.
 constexpr std::array<Ausgabeart, AnzahlWinkelspalten> Ausgabearten = {{
-    {u"txtWEIRP", u"EIRP", u"EIRP %1 Grad [W]"},
-    {u"txtWAbstand", u"ohne HSM", u"Abstand ohne HSM %1 Grad [m]"},
-    {u"txtWHSM306", u"HSM 306", u"Abstand HSM 306 %1 Grad [m]"},
-    {u"txtWHSMvde", u"HSM VDE", u"Abstand HSM VDE %1 Grad [m]"},
+    {u"txtWEIRP", u"EIRP", u"[W]", u"EIRP %1 Grad [W]"},
+    {u"txtWAbstand", u"ohne HSM", u"[m]", u"Abstand ohne HSM %1 Grad [m]"},
+    {u"txtWHSMvde", u"HSM VDE", u"[m]", u"Abstand HSM VDE %1 Grad [m]"},
+    {u"txtWHSM306", u"HSM 306", u"[m]", u"Abstand HSM 306 %1 Grad [m]"},
 }};
 
 QString Sektorname(std::size_t i) {
@@ -45,13 +48,13 @@ void Einrichten(QLineEdit& feld, const QString& name, const QString& beschreibun
   feld.setObjectName(name);
   feld.setAccessibleName(beschreibung);
   feld.setAlignment(Qt::AlignRight);
-  feld.setFixedWidth(11 * feld.fontMetrics().horizontalAdvance(u'0'));
+  GenauBreit(feld, 11);
 }
 
 }  // namespace
 
 WinkelTab::WinkelTab(Ablauf& ablauf, Signalton& ton) : ablauf_(ablauf) {
-  rhmWinkel = new QGroupBox(this);
+  rhmWinkel = new QGroupBox(u"Winkeldämpfung von Richtantennen"_s, this);
   rhmWinkel->setObjectName(u"rhmWinkel"_s);
   KopfBauen(ton);
   TabelleBauen(ton);
@@ -130,17 +133,21 @@ void WinkelTab::KopfAnordnen(QGridLayout& raster) {
 
 void WinkelTab::TabelleAnordnen(QGridLayout& raster) {
   raster.setVerticalSpacing(2);
-  raster.addWidget(Beschriftung(rhmWinkel, u"Winkel °"_s), 0, 0, Qt::AlignCenter);
-  raster.addWidget(Beschriftung(rhmWinkel, u"Dämpfung"_s), 0, 1, Qt::AlignCenter);
+  const auto kopf = [&](const QString& text, const QString& einheit, int spalte) {
+    raster.addWidget(Beschriftung(rhmWinkel, text), 0, spalte, Qt::AlignCenter);
+    raster.addWidget(Beschriftung(rhmWinkel, einheit), 1, spalte, Qt::AlignCenter);
+  };
+  constexpr int Erste = 2;  // row of the first sector
+  kopf(u"Winkel °"_s, {}, 0);
+  kopf(u"Dämpfung"_s, u"[dB]"_s, 1);
   for (std::size_t spalte = 0; spalte < Ausgabearten.size(); ++spalte) {
     const int stelle = static_cast<int>(spalte) + 2;
-    raster.addWidget(Beschriftung(rhmWinkel, Ausgabearten.at(spalte).kopf.toString()), 0, stelle,
-                     Qt::AlignCenter);
+    kopf(Ausgabearten.at(spalte).kopf.toString(), Ausgabearten.at(spalte).einheit.toString(), stelle);
     for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
-      raster.addWidget(ausgaben_.at(spalte).at(i), static_cast<int>(i) + 1, stelle);
+      raster.addWidget(ausgaben_.at(spalte).at(i), static_cast<int>(i) + Erste, stelle);
     }
   }
-  int zeile = 1;
+  int zeile = Erste;
   for (std::size_t i = 0; i < AnzahlSektoren; ++i, ++zeile) {
     raster.addWidget(Beschriftung(rhmWinkel, Sektorname(i), txtWDaempfung.at(i)), zeile, 0);
     raster.addWidget(txtWDaempfung.at(i), zeile, 1);
@@ -157,6 +164,15 @@ void WinkelTab::TabelleAnordnen(QGridLayout& raster) {
 }
 
 void WinkelTab::Verbinden() {
+  auto* ansage = new Ansage(this);
+  for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
+    QList<const QLineEdit*> ergebnisse;
+    for (const auto& spalte : ausgaben_) {
+      ansage->Beobachten(*spalte.at(i));
+      ergebnisse.push_back(spalte.at(i));
+    }
+    ansage->Vorlesen(*txtWDaempfung.at(i), ergebnisse);
+  }
   std::vector<QWidget*> folge(kopf_.begin(), kopf_.end() - 1);
   folge.insert(folge.end(), txtWDaempfung.begin(), txtWDaempfung.end());
   folge.insert(folge.end(), {Command1, KopfVon(Winkelfeld::Massstab)});
@@ -164,14 +180,14 @@ void WinkelTab::Verbinden() {
 
   for (std::size_t i = 0; i < kopf_.size(); ++i) {
     connect(kopf_.at(i), &QLineEdit::textEdited, this, [this, i](const QString& text) {
-      ablauf_.Tun(Mit(WinkelGetippt, static_cast<Winkelfeld>(i), text.toStdString()));
+      ablauf_.TunBeimTippen(*kopf_.at(i), Mit(WinkelGetippt, static_cast<Winkelfeld>(i), text.toStdString()));
     });
   }
   for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
     txtWDaempfung.at(i)->installEventFilter(this);
     connect(txtWDaempfung.at(i), &Zahlenfeld::doppelklick, this, [this, i] { Nehmen(i); });
     connect(txtWDaempfung.at(i), &QLineEdit::textEdited, this, [this, i](const QString& text) {
-      ablauf_.Tun(Mit(WinkeldaempfungGetippt, i, text.toStdString()));
+      ablauf_.TunBeimTippen(*txtWDaempfung.at(i), Mit(WinkeldaempfungGetippt, i, text.toStdString()));
     });
   }
   connect(Command1, &QPushButton::clicked, this, [this] { ablauf_.Tun(SektorenBerechnen); });

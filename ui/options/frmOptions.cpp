@@ -4,12 +4,12 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QTabWidget>
 
 #include "station/Optionen.h"
 #include "station/Vorschau.h"
 #include "station/Winkel.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Menue.h"
 #include "ui/basis/Rollseite.h"
 #include "ui/options/AntennenTab.h"
@@ -63,13 +63,12 @@ frmOptions::frmOptions(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton,
   const int winkelseite = SSTab1->addTab(new Rollseite(winkel_), u"Winkel"_s);
   setCentralWidget(SSTab1);
 
-  QMenu* menue = menuBar()->addMenu(u"&Datei"_s);
-  MenueFuellen(*menue, Dateimenue, ablauf);
-  QAction* mnuDatei = menue->menuAction();
-  mnuDatei->setObjectName(u"mnuDatei"_s);
+  Fenstermenue& menue = MenueAnlegen(*menuBar(), u"mnuDatei"_s, u"&Datei"_s, Dateimenue, ablauf);
+  QAction* mnuDatei = menue.menuAction();
   mnuDatei->setEnabled(false);
-  mnuWHSM306 = menue->findChild<QAction*>(u"mnuWHSM306"_s);
-  mnuWHSMvde = menue->findChild<QAction*>(u"mnuWHSMvde"_s);
+  mnuDatei->setToolTip(u"Die Dateien der Winkeltabellen gehören zur Karte „Winkel“."_s);
+  mnuWHSM306 = menue.findChild<QAction*>(u"mnuWHSM306"_s);
+  mnuWHSMvde = menue.findChild<QAction*>(u"mnuWHSMvde"_s);
   connect(SSTab1, &QTabWidget::currentChanged, this,
           [=](int reiter) { mnuDatei->setEnabled(reiter == winkelseite); });
   QAction* fenster = menuBar()->addAction(u"&Fenster Schließen"_s);
@@ -77,8 +76,7 @@ frmOptions::frmOptions(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton,
   connect(fenster, &QAction::triggered, this, [this] { ablauf_.Tun(OptionenVerbergen); });
 
   OptionenHilfenummern(*this);
-  // Room for the largest tab; the desktop's own bars and the window's frame need a little, too.
-  resize(sizeHint().boundedTo(screen()->availableSize() * 0.95));
+  Einpassen(*this);
 }
 
 void frmOptions::Zeigen(const Station& s) {

@@ -11,9 +11,11 @@
 #include "engine/Version.h"
 #include "station/Leistungsumrechnung.h"
 #include "ui/basis/Ablauf.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Feldfolge.h"
 #include "ui/basis/Feldhilfe.h"
 #include "ui/basis/Zahlenfeld.h"
+#include "ui/basis/Zugang.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,7 +31,7 @@ constexpr Hilfenummer Hilfenummern[] = {
 };
 
 Meldungen Abgelehnt(const char* text) {
-  return {Meldung{{"Hinweis", text}}};
+  return {Meldung{MitHilfe({"Hinweis", text}, HilfeUmrechnung)}};
 }
 
 }  // namespace
@@ -42,7 +44,12 @@ frmLstg::frmLstg(Ablauf& ablauf, Signalton& ton, char trenner, QWidget* eltern)
   Aufbauen(ton);
   HilfenummernSetzen(*this, Hilfenummern);
   new Feldfolge({felder_.begin(), felder_.end()}, this, Folgetasten::Auf);
-  for (Zahlenfeld* feld : felder_) FeldVerbinden(*feld);
+  auto* ansage = new Ansage(this);
+  for (Zahlenfeld* feld : felder_) {
+    ansage->Beobachten(*feld);
+    FeldVerbinden(*feld);
+  }
+  Einpassen(*this);
 }
 
 void frmLstg::Aufbauen(Signalton& ton) {
@@ -57,7 +64,7 @@ void frmLstg::Aufbauen(Signalton& ton) {
     feld->setObjectName(u"txt"_s + einheiten[i]);
     feld->setAccessibleName(beschriftungen[i]);
     feld->setAlignment(Qt::AlignRight);
-    feld->setMinimumWidth(fontMetrics().horizontalAdvance(u"000000000000.000"_s));
+    MindestensBreit(*feld, 16);
     feld->VorzeichenErlauben(Leistungseinheit{i} != Leistungseinheit::Watt);
     auto* label = new QLabel(beschriftungen[i], rhmLeistung);
     label->setObjectName(u"lbl"_s + einheiten[i]);

@@ -4,7 +4,11 @@
 #include <QPainter>
 #include <QResizeEvent>
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <algorithm>
+#include <cstdlib>
+
+#include "ui/basis/Zugang.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +29,7 @@ QImage Seitenbild(const Mappe& mappe, std::size_t seite, double jeMillimeter, do
 
 Seitenblick::Seitenblick(QWidget* eltern) : QScrollArea(eltern), imgSeite(new QLabel(this)) {
   setObjectName(u"rolSeite"_s);
+  ZugangsrolleSetzen(*this, QAccessible::Document);
   imgSeite->setObjectName(u"imgSeite"_s);
   imgSeite->setAlignment(Qt::AlignCenter);
   imgSeite->setWordWrap(true);
@@ -32,16 +37,13 @@ Seitenblick::Seitenblick(QWidget* eltern) : QScrollArea(eltern), imgSeite(new QL
   setBackgroundRole(QPalette::Dark);
   setWidget(imgSeite);
   setFocusPolicy(Qt::StrongFocus);
-  setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(2);
-  RahmenFaerben(QPalette::Dark);
 }
 
 void Seitenblick::Zeigen(const Mappe& mappe, std::size_t seite) {
   const bool andere = mappe_ != &mappe || seite_ != seite;
   mappe_ = &mappe;
   seite_ = seite;
-  imgSeite->setAccessibleName(u"Seite %1 von %2"_s.arg(seite + 1).arg(Seitenzahl(mappe)));
+  setAccessibleName(u"Seite %1 von %2"_s.arg(seite + 1).arg(Seitenzahl(mappe)));
   Malen();
   if (andere) ensureVisible(0, 0);
 }
@@ -50,6 +52,7 @@ void Seitenblick::Leeren(const QString& grund) {
   mappe_ = nullptr;
   imgSeite->setPixmap({});
   imgSeite->setText(grund);
+  setAccessibleName(grund);
   imgSeite->resize(viewport()->size());
 }
 
@@ -65,7 +68,8 @@ double Seitenblick::Jetzt() const {
   const QSizeF platz = QSizeF(maximumViewportSize()) - QSizeF(Rand, Rand);
   const double breite = (platz.width() - verticalScrollBar()->sizeHint().width()) / blatt.width();
   const double ganz = std::min(platz.width() / blatt.width(), platz.height() / blatt.height());
-  return std::clamp(vergroesserung_ == Seitenbreite ? breite : ganz, Kleinste, Groesste);
+  constexpr double KleinstesGanzes = 0.1;
+  return std::clamp(vergroesserung_ == Seitenbreite ? breite : ganz, KleinstesGanzes, Groesste);
 }
 
 void Seitenblick::resizeEvent(QResizeEvent* ereignis) {
@@ -74,20 +78,22 @@ void Seitenblick::resizeEvent(QResizeEvent* ereignis) {
   if (vergroesserung_ <= 0) Malen();
 }
 
-void Seitenblick::RahmenFaerben(QPalette::ColorRole rolle) {
-  QPalette farben = palette();
-  farben.setColor(QPalette::WindowText, farben.color(rolle));
-  setPalette(farben);
-}
-
-void Seitenblick::focusInEvent(QFocusEvent* ereignis) {
-  RahmenFaerben(QPalette::Highlight);
-  QScrollArea::focusInEvent(ereignis);
-}
-
-void Seitenblick::focusOutEvent(QFocusEvent* ereignis) {
-  RahmenFaerben(QPalette::Dark);
-  QScrollArea::focusOutEvent(ereignis);
+void Seitenblick::wheelEvent(QWheelEvent* ereignis) {
+  const int drehung = ereignis->angleDelta().y();
+  QScrollBar& rolle = *verticalScrollBar();
+  const bool amEnde = rolle.value() == (drehung < 0 ? rolle.maximum() : rolle.minimum());
+  if (drehung == 0 || !amEnde) {
+    rad_ = 0;
+    return QScrollArea::wheelEvent(ereignis);
+  }
+  ereignis->accept();
+  rad_ += drehung;
+  constexpr int Raste = 120;
+  if (std::abs(rad_) < Raste) return;
+  rad_ = 0;
+  const std::size_t vorher = seite_;
+  Q_EMIT geblaettert(drehung < 0 ? 1 : -1);
+  if (seite_ < vorher) rolle.setValue(rolle.maximum());
 }
 
 void Seitenblick::Malen() {

@@ -12,8 +12,9 @@ namespace vesk {
 /// `pixelJePunkt` pixels.
 QImage Seitenbild(const Mappe& mappe, std::size_t seite, double jeMillimeter, double pixelJePunkt);
 
-/// One page of the papers, to be looked at closely.
+/// One page of the papers, to be looked at closely. At its ends the mouse wheel goes on to the next page.
 class Seitenblick : public QScrollArea {
+  Q_OBJECT
  public:
   /// How large: so that width or height fit, or in parts of the true size.
   static constexpr double Seitenbreite = 0;
@@ -31,18 +32,21 @@ class Seitenblick : public QScrollArea {
   /// As it is now, in parts of the true size.
   double Jetzt() const;
 
+ Q_SIGNALS:
+  /// On by so many pages.
+  void geblaettert(int seiten);
+
  protected:
   void resizeEvent(QResizeEvent* ereignis) override;
-  void focusInEvent(QFocusEvent* ereignis) override;
-  void focusOutEvent(QFocusEvent* ereignis) override;
+  void wheelEvent(QWheelEvent* ereignis) override;
 
  private:
   void Malen();
-  void RahmenFaerben(QPalette::ColorRole rolle);
 
   const Mappe* mappe_ = nullptr;
   std::size_t seite_ = 0;
   double vergroesserung_ = GanzeSeite;
+  int rad_ = 0;  ///< turned at an end, in eighths of a degree
   QLabel* imgSeite;
 };
 

@@ -1,5 +1,8 @@
 #include "ui/preview/Seitenliste.h"
 
+#include <QScrollBar>
+
+#include "ui/basis/Einpassen.h"
 #include "ui/preview/Seitenblick.h"
 
 using namespace Qt::StringLiterals;
@@ -8,8 +11,8 @@ namespace vesk {
 
 namespace {
 
-constexpr double JeMillimeter = 0.42;  // points of the screen
-constexpr int Textzeilen = 3;          // below a picture
+constexpr double JeMillimeter = 0.026;  // of the height of a line
+constexpr int Textzeilen = 3;           // below a picture
 
 /// The document that a page begins with, or that it belongs to.
 QString Beschriftung(const Mappe& mappe, std::size_t seite) {
@@ -32,11 +35,23 @@ Seitenliste::Seitenliste(QWidget* eltern) : QListWidget(eltern) {
   setMovement(QListView::Static);
   setWordWrap(true);
   setSpacing(4);
-  const QSizeF blatt = Blattgroesse(Blattformat::Quer) * JeMillimeter;
-  setIconSize({static_cast<int>(blatt.width()), static_cast<int>(blatt.width())});
-  setFixedWidth(iconSize().width() + 50);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  MitSchrift(*this, [this] {
+    const int breite = static_cast<int>(Blattgroesse(Blattformat::Quer).width() * Massstab());
+    setIconSize({breite, breite});
+    setFixedWidth(Eintragsbreite() + 2 * (spacing() + frameWidth()) +
+                  verticalScrollBar()->sizeHint().width());
+  });
   takt_.setInterval(0);
   connect(&takt_, &QTimer::timeout, this, &Seitenliste::NaechsteMalen);
+}
+
+int Seitenliste::Eintragsbreite() const {
+  return iconSize().width() + 2 * fontMetrics().height();
+}
+
+double Seitenliste::Massstab() const {
+  return JeMillimeter * fontMetrics().height();
 }
 
 void Seitenliste::Zeigen(const Mappe& mappe) {
@@ -47,9 +62,9 @@ void Seitenliste::Zeigen(const Mappe& mappe) {
     const QString text = u"%1 · %2"_s.arg(i + 1).arg(Beschriftung(mappe, static_cast<std::size_t>(i)));
     if (i == count()) addItem(text);
     item(i)->setText(text);
-    const double hoehe =
-        Blattgroesse(Seitenformat(mappe, static_cast<std::size_t>(i))).height() * JeMillimeter;
-    item(i)->setSizeHint({width() - 30, static_cast<int>(hoehe) + Textzeilen * fontMetrics().lineSpacing()});
+    const double hoehe = Blattgroesse(Seitenformat(mappe, static_cast<std::size_t>(i))).height() * Massstab();
+    item(i)->setSizeHint(
+        {Eintragsbreite(), static_cast<int>(hoehe) + Textzeilen * fontMetrics().lineSpacing()});
   }
   naechste_ = 0;
   takt_.start();
@@ -58,7 +73,7 @@ void Seitenliste::Zeigen(const Mappe& mappe) {
 void Seitenliste::NaechsteMalen() {
   if (naechste_ >= count()) return takt_.stop();
   const QImage bild =
-      Seitenbild(*mappe_, static_cast<std::size_t>(naechste_), JeMillimeter, devicePixelRatioF());
+      Seitenbild(*mappe_, static_cast<std::size_t>(naechste_), Massstab(), devicePixelRatioF());
   item(naechste_++)->setIcon(QPixmap::fromImage(bild));
 }
 

@@ -17,6 +17,8 @@ class Seitenliste : public QListWidget {
 
  private:
   void NaechsteMalen();
+  int Eintragsbreite() const;
+  double Massstab() const;  ///< points of the screen to the millimetre
 
   const Mappe* mappe_ = nullptr;
   int naechste_ = 0;

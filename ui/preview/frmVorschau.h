@@ -24,11 +24,16 @@ class Seitenliste;
 class frmVorschau : public QMainWindow {
   Q_OBJECT
  public:
+  /// In the boxes of the tool bar: all curves, and the scale that the paper has room for.
+  static constexpr int AlleKurven = -1;
+  static constexpr QStringView Passend = u"passend";
+
   frmVorschau(Ablauf& ablauf, const Kataloge& kataloge, QWidget* eltern = nullptr);
 
   void Zeigen(const Station& s);
 
  protected:
+  void keyPressEvent(QKeyEvent* ereignis) override;
   void closeEvent(QCloseEvent* ereignis) override;
 
  private:
@@ -38,13 +43,13 @@ class frmVorschau : public QMainWindow {
   QWidget* BefundeAufbauen();
   void WahlZeigen(const Station& s);
   void BefundeZeigen(const Station& s);
+  void SeitenzahlZeigen(int zahl);
   void Neubilden();
   void SeiteZeigen(int seite);
   void Vergroessern(double faktor);
 
   Ablauf& ablauf_;
   const Kataloge& kataloge_;
-  std::optional<bool> tooltips_;    ///< as they have been written
   std::optional<Station> gezeigt_;  ///< what the pages are made of, or will be in an instant; while open
   QTimer pause_;                    ///< pages take longer than a key press
   Mappe mappe_;

@@ -12,6 +12,7 @@
 #include "station/Papiere.h"
 #include "station/Vorschau.h"
 #include "ui/basis/Anzeige.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Feldfolge.h"
 #include "ui/basis/Feldhilfe.h"
@@ -82,7 +83,7 @@ frmUser::frmUser(Ablauf& ablauf, Signalton& ton, QWidget* eltern) : QDialog(elte
   setWindowTitle(u"Persönliche Daten "_s);
   FelderAnlegen(ton);
   auto* leiste = new QMenuBar(this);
-  MenueFuellen(*leiste->addMenu(u"&Datei"_s), Menue, ablauf_);
+  MenueAnlegen(*leiste, u"mnuDatei"_s, u"&Datei"_s, Menue, ablauf_);
   layout()->setMenuBar(leiste);
 
   new Feldfolge({felder_.begin(), felder_.end()}, this, Folgetasten::AufAb);
@@ -91,6 +92,7 @@ frmUser::frmUser(Ablauf& ablauf, Signalton& ton, QWidget* eltern) : QDialog(elte
           [this] { ablauf_.TunBeimVerlassen(Mit(FeldBetreten, Eingabefeld::Rufzeichen)); });
   connect(rufzeichen, &Textfeld::verlassen, this,
           [this] { ablauf_.TunBeimVerlassen(Mit(FeldVerlassen, Eingabefeld::Rufzeichen)); });
+  Einpassen(*this);
 }
 
 void frmUser::FelderAnlegen(Signalton& ton) {
@@ -102,9 +104,10 @@ void frmUser::FelderAnlegen(Signalton& ton) {
     feld->setObjectName(u"txt"_s + name);
     feld->setAccessibleName(QString(beschriftung).remove(u'&'));
     feld->setMaxLength(static_cast<int>(MaxFeldlaenge));
-    feld->setMinimumWidth(fontMetrics().horizontalAdvance(QString(40, u'0')));
-    connect(feld, &QLineEdit::textEdited, this,
-            [this, i](const QString& text) { ablauf_.Tun(Mit(BenutzerGetippt, i, text.toStdString())); });
+    MindestensBreit(*feld, 40);
+    connect(feld, &QLineEdit::textEdited, this, [this, i](const QString& text) {
+      ablauf_.TunBeimTippen(*felder_[i], Mit(BenutzerGetippt, i, text.toStdString()));
+    });
     auto* label = new QLabel(beschriftung, this);
     label->setObjectName(u"lbl"_s + name);
     label->setBuddy(feld);
@@ -127,7 +130,9 @@ void frmUser::Zeigen(const Station& station) {
   if (!leer && station.benutzer == Benutzer()) felder_[0]->setFocus();
   for (std::size_t i = 0; i < felder_.size(); ++i) {
     Schreiben(*felder_[i], station.benutzer.*Benutzerfelder[i]);
-    if (Pflichtfelder[i] != Pflicht::Nein) Faerben(*felder_[i], Grundfarbe(station.benutzermarken[i]));
+    if (Pflichtfelder[i] == Pflicht::Nein) continue;
+    Faerben(*felder_[i], Grundfarbe(station.benutzermarken[i]));
+    felder_[i]->setPlaceholderText(u"(Pflichtangabe)"_s);
   }
   if (station.titelGesetzt) setWindowTitle(QString::fromStdString(TitelBenutzerfenster(station)));
   if (tooltips_ != station.einstellungen.ToolTips) {

@@ -1,19 +1,23 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QRegularExpression>
+#include <functional>
 #include <map>
 
 #include "engine/Ausgabe.h"
 #include "engine/Zahlen.h"
+#include "persistence/Antennendatei.h"
 #include "persistence/Kabeldatei.h"
+#include "station/Datenblatt.h"
+#include "station/Haupthandlungen.h"
 #include "station/Leistungsumrechnung.h"
+#include "station/Verlauf.h"
+#include "tests/ui/Handbuchseiten.h"
 
 using namespace Qt::StringLiterals;
 
 /// Figures of the manual stand in <span class="wert" data-fall="key=value ...">; the keys say how the program
-/// comes to them.
+/// comes to them. Any other figure with a unit is one of these values, a band or a bound of the program.
 namespace vesk {
 namespace {
 
@@ -82,6 +86,7 @@ Werte Schwelle(Werte& fall) {
 Werte Ergebnisse(Werte fall) {
   if (fall.contains("qrg") || fall.contains("minuten")) return Rechnung(fall);
   if (fall.contains("band")) return Band(fall["band"]);
+  if (fall["grenze"] == "schritte") return {{"", std::to_string(Verlauf::MaxSchritte)}};
   if (fall.contains("kabel")) return Kabelverluste(fall);
   if (fall.contains("art")) return {{"", std::string(Sendearten.at(std::stoul(fall["art"])).faktor)}};
   const std::string einheiten[] = {"dbm", "dbw", "watt"};
@@ -93,16 +98,109 @@ Werte Ergebnisse(Werte fall) {
   return Schwelle(fall);
 }
 
+const QRegularExpression Wertmuster(u"<span class=\"wert\" data-fall=\"([^\"]*)\">([^<]*)</span>"_s);
+
+/// Bounds that the manual names: just below them the program behaves otherwise than just above.
+QSet<QString> Grenzen() {
+  const auto grenzwerte = [](double mhz, std::int16_t typ = GrenzwertAM) {
+    return GrenzwerteBestimmen(static_cast<float>(mhz), false, typ);
+  };
+  const auto bereich = [&](double mhz) { return grenzwerte(mhz).ausserhalb; };
+  const auto vde = [&](double mhz) { return grenzwerte(mhz).hsmVDE.ausserhalb; };
+  const auto tv = [&](double mhz) { return grenzwerte(mhz, GrenzwertTV).hsmVDE.Uss == 0; };
+  const auto gewinn = [](double dBi) {
+    Station s;
+    EingabeGetippt(s, {}, Eingabefeld::Gewinn, std::to_string(dBi));
+    FeldVerlassen(s, {}, Eingabefeld::Gewinn);
+    return s.werte.GewinnText == "100";
+  };
+  const auto pegel = [](Leistungseinheit einheit) {
+    return [einheit](double wert) {
+      return Umrechnen(einheit, std::to_string(wert), '.').ergebnis == Umrechnungsergebnis::ZuGross;
+    };
+  };
+  const auto kilowatt = [](double watt) {
+    Werte fall = {{"qrg", "14"}, {"pwr", std::to_string(watt)}};
+    return Zahl(Rechnung(fall)["txtStrahlung"]) < 100;
+  };
+  const std::tuple<const char*, double, std::function<bool(double)>> kippt[] = {
+      {"0.003 MHz", 0.003, bereich},
+      {"0,003 MHz", 0.003, bereich},
+      {"300000 MHz", 3e5, bereich},
+      {"300 GHz", 3e5, bereich},
+      {"0.03 MHz", 0.03, vde},
+      {"30 KHz", 0.03, vde},
+      {"2500 MHz", 2500, vde},
+      {"2,5 GHz", 2500, vde},
+      {"79 MHz", 79, tv},
+      {"1100 MHz", 1100, tv},
+      {"50 MHz", 50, [&](double mhz) { return grenzwerte(mhz).hsm306.Uss == 0; }},
+      {"100 MHz", 100, [&](double mhz) { return grenzwerte(mhz).hsmVDE.Uss == 0; }},
+      {"10 MHz", 10, [&](double mhz) { return grenzwerte(mhz).ohneHSM > 27.5F; }},
+      {"400 MHz", 400, [&](double mhz) { return grenzwerte(mhz).ohneHSM > 27.5F; }},
+      {"100 dBi", 100, gewinn},
+      {"100 dBm", 100, pegel(Leistungseinheit::DBm)},
+      {"70 dBW", 70, pegel(Leistungseinheit::DBW)},
+      {"10000 W", 10000, kilowatt}};
+  QSet<QString> grenzen;
+  for (const auto& [text, wert, ist] : kippt) {
+    EXPECT_NE(ist(wert * 0.9999), ist(wert * 1.0001)) << text;
+    grenzen << QString::fromUtf8(text);
+  }
+  const Antenne antenne =
+      AntennenLaden("[x]\n" + std::string(30, 't') + ',' + std::string(30, 'a') + ",#").Antennen.at(0);
+  const auto zeichen = [&](std::size_t anzahl) { grenzen << u"%1 Zeichen"_s.arg(anzahl); };
+  for (const std::size_t anzahl :
+       {MaxZellenlaenge, antenne.typ.size(), antenne.art.size(), std::size_t{HerstellerSpalten}})
+    zeichen(anzahl);
+  grenzen << u"%1 Kabel"_s.arg(KabelMax) << u"%1 Kabel"_s.arg(KabelMax - 1)
+          << u"%1 MHz"_s.arg(Kabelfrequenz.front()) << u"%1 MHz"_s.arg(Kabelfrequenz.back())
+          << u"%1 Wellenlängen"_s.arg(FernfeldInLambda) << u"%1 Wellenlängen"_s.arg(1 / (2 * Pi), 0, 'f', 3)
+          << u"%1 V/m"_s.arg(double(grenzwerte(3000).ohneHSM));
+  return grenzen;
+}
+
+/// What is measured in, and zero.
+const QSet<QString> Masse = {u"100 m"_s, u"1 mW"_s, u"1 W"_s, u"0 W"_s, u"0.00 W"_s, u"0 dB"_s, u"0 dBi"_s};
+
+TEST(Hilfewerte, KeineZahlMitEinheitBleibtUngeprueft) {
+  const QRegularExpression geprueft(
+      u"<span class=\"(?:wert|formel)\".*?</span>|<pre>.*?</pre>|<title>.*?</title>"_s,
+      QRegularExpression::DotMatchesEverythingOption);
+  const QRegularExpression argument(u"=([\\d.]+)(?=[ \"])"_s);
+  const QRegularExpression zahl(
+      u"(?<![\\w.,])(\\d(?:[\\d.,]*\\d)?)[ |]*(dB[mWid]?|V/m|[MGKk]Hz|[ckm]?m|[km]?W|V|Zeichen|Kabel|"
+      "Wellenlängen|Schritte)(?![\\wäöüß])"_s);
+  const QSet<QString> grenzen = Grenzen();
+  const QMap<QString, QString> seiten = Handbuchseiten();
+  for (auto seite = seiten.begin(); seite != seiten.end(); ++seite) {
+    QSet<double> vorgaben;
+    for (auto treffer = Wertmuster.globalMatch(*seite); treffer.hasNext();) {
+      const QString fall = treffer.next().captured(1) + u' ';
+      for (auto wert = argument.globalMatch(fall); wert.hasNext();)
+        vorgaben << wert.next().captured(1).toDouble();
+    }
+    QString text = *seite;
+    text.remove(geprueft).replace(QRegularExpression(u"<[^>]*>"_s), u"|"_s);
+    for (auto treffer = zahl.globalMatch(text); treffer.hasNext();) {
+      const QRegularExpressionMatch fund = treffer.next();
+      const QString angabe = fund.captured(1) + u' ' + fund.captured(2);
+      const bool band = !Band(QString(angabe).remove(u' ').toStdString()).empty();
+      EXPECT_TRUE(band || vorgaben.contains(fund.captured(1).toDouble()) ||
+                  (grenzen + Masse).contains(angabe))
+          << seite.key().toStdString() << ": " << angabe.toStdString();
+    }
+  }
+}
+
 TEST(Hilfewerte, AlleZahlenStimmenMitDemProgramm) {
-  const QRegularExpression muster(u"<span class=\"wert\" data-fall=\"([^\"]*)\">([^<]*)</span>"_s);
-  const QDir verzeichnis(QStringLiteral(VESK_DATEN "/hilfe"));
   int anzahl = 0;
-  for (const QString& name : verzeichnis.entryList({u"*.html"_s})) {
-    QFile datei(verzeichnis.filePath(name));
-    ASSERT_TRUE(datei.open(QIODevice::ReadOnly));
-    const QString html = QString::fromUtf8(datei.readAll());
-    EXPECT_EQ(html.count(u"class=\"wert\""_s), html.count(muster)) << name.toStdString();
-    for (auto treffer = muster.globalMatch(html); treffer.hasNext(); ++anzahl) {
+  const QMap<QString, QString> seiten = Handbuchseiten();
+  for (auto seite = seiten.begin(); seite != seiten.end(); ++seite) {
+    const QString& name = seite.key();
+    const QString& html = *seite;
+    EXPECT_EQ(html.count(u"class=\"wert\""_s), html.count(Wertmuster)) << name.toStdString();
+    for (auto treffer = Wertmuster.globalMatch(html); treffer.hasNext(); ++anzahl) {
       const QRegularExpressionMatch fund = treffer.next();
       Werte fall;
       for (const QString& paar : fund.captured(1).split(u' ')) {

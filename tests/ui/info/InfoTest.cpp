@@ -12,6 +12,7 @@
 #include "tests/ui/Finden.h"
 #include "ui/info/Hilfebuch.h"
 #include "ui/info/Hilfesystem.h"
+#include "ui/info/Seitenanzeige.h"
 #include "ui/info/frmHilfe.h"
 #include "ui/info/frmInfo.h"
 #include "ui/info/frmTip.h"
@@ -42,12 +43,12 @@ TEST_F(HilfesystemTest, BlaetternMitDerTastatur) {
   EXPECT_EQ(Seite(), "start.html");
   Taste(Qt::Key_Tab);  // first link of the page
   Taste(Qt::Key_Return);
-  EXPECT_EQ(Seite(), "zweck.html");
+  EXPECT_EQ(Seite(), "erste-schritte.html");
   auto& baum = Finden<QTreeWidget>(*hilfe.Fenster(), u"treInhalt"_s);
   EXPECT_EQ(baum.currentItem(), baum.topLevelItem(1));
   const std::tuple<Qt::Key, Qt::KeyboardModifiers, const char*> wege[] = {
       {Qt::Key_Left, Qt::AltModifier, "start.html"},
-      {Qt::Key_Right, Qt::AltModifier, "zweck.html"},
+      {Qt::Key_Right, Qt::AltModifier, "erste-schritte.html"},
       {Qt::Key_F1, Qt::NoModifier, "hilfe-benutzen.html"}};
   for (const auto& [taste, zusatz, seite] : wege) {
     Taste(taste, zusatz);
@@ -61,7 +62,7 @@ TEST_F(HilfesystemTest, BlaetternMitDerTastatur) {
   baum.setCurrentItem(baum.topLevelItem(2));
   EXPECT_EQ(Seite(), "hilfe-benutzen.html");  // only Enter opens
   Taste(Qt::Key_Return);
-  EXPECT_EQ(Seite(), "erste-schritte.html");
+  EXPECT_EQ(Seite(), "zweck.html");
   Taste(Qt::Key_Escape);
   EXPECT_FALSE(hilfe.Fenster()->isVisible());
 }
@@ -117,9 +118,48 @@ TEST_F(HilfesystemTest, NebenEinemModalenFensterBedienbar) {
   const QPoint stelle = baum.visualItemRect(baum.topLevelItem(1)).center();
   QTest::mouseClick(hilfe.Fenster()->windowHandle(), Qt::LeftButton, {},
                     baum.viewport()->mapTo(hilfe.Fenster(), stelle));
-  EXPECT_EQ(Seite(), "zweck.html");
+  EXPECT_EQ(Seite(), "erste-schritte.html");
   modal.hide();
   EXPECT_TRUE(hilfe.Fenster()->isVisible());
+}
+
+/// As wide as the window at most, whatever its width, and on paper as wide as the sheet.
+TEST_F(HilfesystemTest, BilderPassenInFensterUndBlatt) {
+  const QTemporaryDir ordner;
+  QDir(ordner.path()).mkdir(u"bilder"_s);
+  ASSERT_TRUE(QImage(2000, 1000, QImage::Format_RGB32).save(ordner.filePath(u"bilder/weit.png"_s)));
+  for (const auto& [name, text] : {std::pair{u"inhalt.txt"_s, "start.html"},
+                                   {u"start.html"_s, "<p>vorher</p><p><img src=\"bilder/weit.png\"></p>"}}) {
+    QFile datei(ordner.filePath(name));
+    ASSERT_TRUE(datei.open(QIODevice::WriteOnly) && datei.write(text) > 0);
+  }
+  Hilfesystem bebildert(ordner.path(), boxen, drucker);
+  bebildert.Aufrufen(u"Vesk32.HLP"_s, Hilfebefehl::Inhalt, 0);
+  auto& anzeige = Finden<Seitenanzeige>(*bebildert.Fenster(), u"anzSeite"_s);
+  for (const int breite : {1300, 700, 1000}) {
+    bebildert.Fenster()->resize(breite, 600);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(anzeige.horizontalScrollBar()->maximum(), 0) << breite;
+    EXPECT_GT(anzeige.document()->idealWidth(), anzeige.viewport()->width() - 30) << breite;
+  }
+  EXPECT_NEAR(anzeige.Druckfassung()->idealWidth() - 2 * anzeige.document()->documentMargin(), 640, 1);
+}
+
+/// Those that the build makes are those that the pages show.
+TEST(Hilfebilder, SindGemachtUndKlein) {
+  const QDir bilder(QStringLiteral(VESK_BILDER));
+  if (!bilder.exists()) GTEST_SKIP() << "built without pictures";
+  Hilfebuch buch(QStringLiteral(VESK_BILDER "/.."));
+  QStringList gezeigt;
+  for (const Hilfeseite& seite : buch.Inhalt()) {
+    const QString html = buch.Html(seite.name).value_or(QString());
+    for (auto bild = QRegularExpression(u"<img src=\"bilder/([^\"]*)\""_s).globalMatch(html); bild.hasNext();)
+      gezeigt << bild.next().captured(1);
+  }
+  gezeigt.sort();
+  EXPECT_EQ(gezeigt.join(u' ').toStdString(),
+            bilder.entryList(QDir::Files, QDir::Name).join(u' ').toStdString());
+  for (const QFileInfo& datei : bilder.entryInfoList(QDir::Files)) EXPECT_LT(datei.size(), 60000);
 }
 
 struct HilfebuchTest : testing::Test {
@@ -141,7 +181,7 @@ TEST_F(HilfebuchTest, JederVerweisFuehrtZumZiel) {
     for (auto treffer = verweis.globalMatch(html); treffer.hasNext();) {
       const QUrl ziel(treffer.next().captured(1));
       if (!ziel.scheme().isEmpty()) continue;
-      const QString zielseite = buch.Html(ziel.path()).value_or(QString());
+      const QString zielseite = ziel.path().isEmpty() ? html : buch.Html(ziel.path()).value_or(QString());
       const QString marke = ziel.hasFragment() ? u"name=\""_s + ziel.fragment() + u'"' : u"<title>"_s;
       EXPECT_TRUE(zielseite.contains(marke)) << name.toStdString() << ": " << ziel.toString().toStdString();
     }
@@ -150,7 +190,7 @@ TEST_F(HilfebuchTest, JederVerweisFuehrtZumZiel) {
 
 TEST_F(HilfebuchTest, UnbekannteNummerGibtDenAnfangIhresBlocks) {
   for (const auto& [nummer, anfang] :
-       {std::pair(0, 1001), {1038, 1001}, {2008, 2001}, {2120, 2100}, {99999, 5001}}) {
+       {std::pair(0, 1001), {1038, 1001}, {2008, 2001}, {2120, 2100}, {99999, 8001}}) {
     EXPECT_EQ(buch.Kontextseite(nummer), u"kontext-%1.html"_s.arg(anfang)) << nummer;
   }
 }

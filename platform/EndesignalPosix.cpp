@@ -1,10 +1,10 @@
-#include "platform/Endesignal.h"
-
 #include <sys/signalfd.h>
 #include <unistd.h>
 
 #include <QSocketNotifier>
 #include <csignal>
+
+#include "platform/Endesignal.h"
 
 namespace vesk {
 

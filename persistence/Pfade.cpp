@@ -1,0 +1,34 @@
+#include "persistence/Pfade.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace vesk {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Bytes(const std::u8string& text) {
+  return {text.begin(), text.end()};
+}
+
+}  // namespace
+
+fs::path PfadAusUtf8(std::string_view text) try {
+  return std::u8string(text.begin(), text.end());
+} catch (const std::system_error&) {
+  return {};
+}
+
+std::string PfadAlsUtf8(const fs::path& pfad) {
+  std::string text = Bytes(pfad.u8string());
+  if constexpr (fs::path::preferred_separator != '/') std::replace(text.begin(), text.end(), '\\', '/');
+  return text;
+}
+
+std::string PfadZumZeigen(fs::path pfad) {
+  return Bytes(pfad.make_preferred().u8string());
+}
+
+}  // namespace vesk
