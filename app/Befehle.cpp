@@ -3,7 +3,6 @@
 #include "app/Papierablauf.h"
 #include "app/Pfadtext.h"
 #include "app/Programm.h"
-#include "persistence/Dateien.h"
 #include "persistence/Katalogdateien.h"
 #include "persistence/Tips.h"
 #include "persistence/Winkelablauf.h"
@@ -124,7 +123,7 @@ void Programm::DateiOeffnen(const QString& name) {
 
 void Programm::KatalogeErneuern() {
   Meldungen meldungen;
-  kataloge_ = KatalogeLesen(PfadAusUtf8(station_.ProgrammVerzeichnis), meldungen);
+  kataloge_ = KatalogeLesen(PfadAusUtf8(station_.ProgrammVerzeichnis), meldungen, ersatz_);
   // Its lists are those of the former catalogues.
   optionen_.reset();
   baender_.reset();
@@ -142,6 +141,7 @@ void Programm::DateiMerken() {
       PfadAlsUtf8(PfadAusUtf8(station_.Arbeitsverzeichnis) / PfadAusUtf8(station_.UserDatei));
   std::vector<std::string>& liste = station_.zuletztBenutzt;
   if (!liste.empty() && liste.front() == pfad) return;
+  if (std::error_code fehler; !std::filesystem::exists(PfadAusUtf8(pfad), fehler)) return;
   std::erase(liste, pfad);
   liste.insert(liste.begin(), pfad);
   if (liste.size() > MaxZuletzt) liste.resize(MaxZuletzt);
@@ -161,8 +161,10 @@ void Programm::Hinzeigen(const Papierort& ort) {
 
 void Programm::TipZeigen() {
   if (!tip_) {
-    const Gelesen datei = DateiLesen(PfadAusUtf8(station_.ProgrammVerzeichnis) / "TIPOFDAY.TXT");
-    tip_ = std::make_unique<frmTip>(plattform_.speicher, TipsLesen(datei.bytes), &hauptfenster_);
+    const std::filesystem::path verzeichnis =
+        ersatz_.empty() ? PfadAusUtf8(station_.ProgrammVerzeichnis) : ersatz_;
+    tip_ = std::make_unique<frmTip>(plattform_.speicher, TipsLaden(verzeichnis / "TIPOFDAY.TXT"),
+                                    &hauptfenster_);
   }
   Oeffnen(*tip_);
 }

@@ -1,5 +1,7 @@
 #include "app/Desktoplage.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QScreen>
 #include <QStringList>
 #include <QWidget>
@@ -29,6 +31,20 @@ void AufDenBildschirm(QWidget& fenster) {
   fenster.setGeometry(lage);
 }
 
+/// Of a dialog the toolkit would take its contents for its frame, as long as that has not been seen, and put
+/// the title above the screen. Main windows are placed by the desktop: false.
+bool InDieMitte(QWidget& fenster) {
+  if (qobject_cast<const QDialog*>(&fenster) == nullptr) return false;
+  const QWidget* bei =
+      fenster.parentWidget() != nullptr ? fenster.parentWidget() : QApplication::activeWindow();
+  if (bei != nullptr) fenster.setScreen(bei->screen());
+  QRect lage({}, fenster.size().expandedTo(fenster.minimumSizeHint()));
+  lage.moveCenter(fenster.parentWidget() != nullptr ? bei->geometry().center()
+                                                    : fenster.screen()->availableGeometry().center());
+  fenster.setGeometry(lage);
+  return true;
+}
+
 }  // namespace
 
 void LageMerken(const QWidget& fenster, Benutzerspeicher& speicher) {
@@ -39,7 +55,8 @@ void LageMerken(const QWidget& fenster, Benutzerspeicher& speicher) {
 
 void LageHolen(QWidget& fenster, Benutzerspeicher& speicher) {
   const auto lage = speicher.Lesen(Fensterabschnitt, fenster.objectName());
-  if (!lage || !fenster.restoreGeometry(QByteArray::fromBase64(lage->toLatin1()))) return;
+  const bool bekannt = lage && fenster.restoreGeometry(QByteArray::fromBase64(lage->toLatin1()));
+  if (!bekannt && !InDieMitte(fenster)) return;
   if (fenster.windowState() == Qt::WindowNoState) AufDenBildschirm(fenster);
 }
 

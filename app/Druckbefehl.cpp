@@ -11,6 +11,7 @@
 #include "app/Pfadtext.h"
 #include "app/Verzeichnisse.h"
 #include "engine/Zahlen.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Katalogdateien.h"
 #include "persistence/UserDatei.h"
 #include "persistence/Winkeldatei.h"
@@ -53,13 +54,14 @@ double Massstabszahl(const std::string& text) {
 /// The user's file as it is, whatever version wrote it: nothing is converted on the disk.
 Station StationLesen(const fs::path& pfad, const Kataloge& kataloge) {
   const std::string name = PfadAlsUtf8(pfad.filename());
-  const Gelesen datei = DateiLesen(pfad);
+  const Gelesen datei = DateiLesen(pfad, grenzen::UserDatei);
   if (const Fehlergrund grund = WarumUnbrauchbar(name, datei, true)) throw std::runtime_error(*grund);
   Station s;
   OptionenVorbelegen(s, kataloge);
   const Lesebericht bericht = UserDateiLesen(datei.bytes, s);
   if (bericht.version == Dateiversion::ZuAlt) {
-    throw std::runtime_error("Die Datei " + name + " stammt aus Programmversion " + bericht.versionstext +
+    throw std::runtime_error("Die Datei " + name + " stammt aus Programmversion " +
+                             Anfang(bericht.versionstext, grenzen::Meldungswort) +
                              "; ihr Datenblatt ist nicht mehr lesbar.");
   }
   s.benutzer.Klasse = Grossbuchstaben(s.benutzer.Klasse);
@@ -71,7 +73,7 @@ Station StationLesen(const fs::path& pfad, const Kataloge& kataloge) {
 /// The angle page shows the file's table, with the power of a column.
 void WinkelseiteLesen(const fs::path& pfad, Station& s) {
   const std::string name = "Die Datei " + PfadAlsUtf8(pfad.filename());
-  const Gelesen datei = DateiLesen(pfad);
+  const Gelesen datei = DateiLesen(pfad, grenzen::Winkel);
   if (const Fehlergrund grund = WarumOhneInhalt(PfadAlsUtf8(pfad.filename()), datei))
     throw std::runtime_error(*grund);
   const GeleseneWinkeldaten daten = WinkelLesen(datei.bytes);

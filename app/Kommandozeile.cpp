@@ -97,6 +97,18 @@ void FensteraufrufLesen(const QStringList& argumente, std::ostream& aus, Aufruf&
 
 }  // namespace
 
+std::optional<QStringList> ArgumenteLesen(int anzahl, const char* const* argumente, std::ostream& fehler) {
+  QStringList texte;
+  for (int i = 1; i < anzahl; ++i) {
+    texte.append(QString::fromLocal8Bit(argumente[i]));
+    if (texte.back().toLocal8Bit() == argumente[i]) continue;
+    fehler << "vesk: Das Argument „" << texte.back().toStdString()
+           << "“ enthält Zeichen, die nicht lesbar sind (kein UTF-8).\n";
+    return std::nullopt;
+  }
+  return texte;
+}
+
 Aufruf KommandozeileAusfuehren(const QStringList& argumente, char dezimaltrenner, const Stroeme& stroeme) {
   const bool rechnen = argumente.value(0) == u"rechnen"_s;
   const bool drucken = argumente.value(0) == u"drucken"_s;

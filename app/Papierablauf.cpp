@@ -16,7 +16,7 @@ namespace vesk {
 
 namespace {
 
-void Sagen(Druckausgang ausgang, Plattform& plattform) {
+void Sagen(const Druckausgang& ausgang, Plattform& plattform) {
   if (const auto meldung = Druckmeldung(ausgang)) plattform.boxen.Zeigen(*meldung);
 }
 

@@ -48,13 +48,21 @@ Dialogwahl AlsDialog(const Dateiwahl& wahl) {
           QString::fromStdString(wahl.vorschlag)};
 }
 
+Meldungen Hindernismeldung(const Verzeichnisse& verzeichnisse) {
+  if (verzeichnisse.hindernis.empty()) return {};
+  return {{Fehlermeldung("In das Verzeichnis " + PfadZumZeigen(AlsPfad(verzeichnisse.programm)) +
+                         " läßt sich nichts schreiben.\n" + verzeichnisse.hindernis +
+                         "\nKabel, Antennen und Tips gelten, wie sie mitgeliefert sind. Ihre Daten speichern "
+                         "Sie bitte mit \"Speichern unter\" in ein anderes Verzeichnis.")}};
+}
+
 template <typename Fenster, typename... Werte>
 Fenster& Angelegt(std::unique_ptr<Fenster>& fenster, Benutzerspeicher& speicher, const Station& station,
                   Werte&&... werte) {
   if (!fenster) {
     fenster = std::make_unique<Fenster>(std::forward<Werte>(werte)...);
-    LageHolen(*fenster, speicher);
     fenster->Zeigen(station);
+    LageHolen(*fenster, speicher);
   }
   return *fenster;
 }
@@ -64,7 +72,9 @@ Fenster& Angelegt(std::unique_ptr<Fenster>& fenster, Benutzerspeicher& speicher,
 Programm::Programm(Station& station, Plattform& plattform, const Verzeichnisse& verzeichnisse)
     : station_(station),
       plattform_(plattform),
-      kataloge_(KatalogeLesen(AlsPfad(verzeichnisse.programm), startmeldungen_)),
+      ersatz_(verzeichnisse.hindernis.empty() ? fs::path() : AlsPfad(verzeichnisse.daten)),
+      startmeldungen_(Hindernismeldung(verzeichnisse)),
+      kataloge_(KatalogeLesen(AlsPfad(verzeichnisse.programm), startmeldungen_, ersatz_)),
       hauptfenster_(*this, kataloge_, plattform.ton),
       dateien_(station_, kataloge_, *this),
       hilfetaste_(plattform.hilfe),
@@ -76,12 +86,22 @@ Programm::Programm(Station& station, Plattform& plattform, const Verzeichnisse& 
   }
   station_.ProgrammVerzeichnis = verzeichnisse.programm.toStdString();
   station_.winkel.datei = station_.ProgrammVerzeichnis + "/Winkel.ang";
+  // Queued, because a timer is silent while it is being answered, and saving may open a box.
+  connect(&endetakt_, &QTimer::timeout, this, &Programm::Endeschritt, Qt::QueuedConnection);
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &Programm::HauptfensterAktiviert);
 }
 
 Programm::~Programm() {
-  // Windows that go take the focus from their fields; nobody is there to answer.
+  // Windows that go take the focus from their fields; nobody is there to answer. A field that went with its
+  // window would tell what is left of it.
   beendet_ = true;
+  disconnect(qGuiApp, nullptr, this, nullptr);
+  const std::initializer_list<QWidget*> fenster = {
+      optionen_.get(), datenblatt_.get(), benutzer_.get(), leistung_.get(), vorschau_.get(),
+      baender_.get(),  diagramme_.get(),  tip_.get(),      info_.get(),     &hauptfenster_};
+  for (QWidget* jedes : fenster) {
+    if (jedes != nullptr) jedes->hide();
+  }
 }
 
 void Programm::Starten() {
@@ -89,6 +109,12 @@ void Programm::Starten() {
   station_.zuletztBenutzt = ZuletztBenutzt(plattform_.speicher);
   dateien_.InitLaden();
   dateien_.RettungAnbieten();
+  if (endetakt_.isActive()) {
+    // Nothing has been typed; saving would only overtake what is still on offer.
+    beendet_ = true;
+    Q_EMIT beendet(0);
+    return;
+  }
   const bool alle = station_.einstellungen.Fenster;
   station_.fenster.optionen = station_.fenster.datenblatt = station_.fenster.dateimenue = alle;
   DateiMerken();
@@ -257,26 +283,6 @@ std::optional<fs::path> Programm::ZumOeffnen(const Dateiwahl& wahl) {
 
 std::optional<fs::path> Programm::ZumSpeichern(const Dateiwahl& wahl) {
   return Gewaehlt(plattform_.dialoge.Speichern(AlsDialog(wahl)));
-}
-
-void Programm::RettungSichern() {
-  if (!beendet_) dateien_.RettungSichern();
-}
-
-void Programm::Beenden() {
-  if (beendet_) return;
-  if (dateien_.Beschaeftigt()) {
-    // Asked to end while a question about files is open: as soon as that is answered.
-    QTimer::singleShot(Wartezeit, this, &Programm::Beenden);
-    return;
-  }
-  const bool zuEnde = dateien_.Beenden();
-  Zeigen();
-  if (!zuEnde) return;
-  for (const QWidget* fenster : QApplication::topLevelWidgets()) LageMerken(*fenster, plattform_.speicher);
-  beendet_ = true;
-  plattform_.hilfe.Aufrufen(u"F1.HLP"_s, Hilfebefehl::Beenden, 0);
-  Q_EMIT beendet();
 }
 
 }  // namespace vesk

@@ -1,6 +1,7 @@
 #pragma once
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <memory>
 
 #include "app/Dateiabwurf.h"
@@ -41,6 +42,9 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   void Starten();
   /// Saves and announces the end; the user may go on when something cannot be saved.
   void Beenden();
+  /// Asked from outside: leaves what stands open, saves without asking and announces the end. What cannot be
+  /// saved is kept as for a crash; when that fails, too, the program goes on.
+  void EndeVerlangt();
   /// Keeps what is not saved yet for the case of a crash; runs by itself every few seconds.
   void RettungSichern();
 
@@ -61,8 +65,8 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   void Hinzeigen(const Papierort& ort) override;
 
  Q_SIGNALS:
-  /// Everything is saved; the event loop may end.
-  void beendet();
+  /// The event loop may end with this exit code: 0, or 1 when not everything is saved in its file.
+  void beendet(int rueckgabe);
 
  private:
   Antwort Fragen(const Hinweis& hinweis) override;
@@ -75,6 +79,8 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   void Zuruecknehmen(bool (Verlauf::*weg)(Station&));
   void KatalogeErneuern();
   void DateiMerken();
+  void Endeschritt();
+  void Schliessen(int rueckgabe);
   void Zeigen();
   void Sagen(const Meldungen& meldungen);
   void AufgeschobenesSagen();
@@ -86,6 +92,7 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
 
   Station& station_;
   Plattform& plattform_;
+  std::filesystem::path ersatz_;  ///< of catalogues and tips that cannot stand in the program directory
   Meldungen startmeldungen_;
   Kataloge kataloge_;
   frmVesk hauptfenster_;
@@ -106,6 +113,7 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   Dateiabwurf abwurf_;
   QPointer<QWindow> letztesFenster_;  ///< of this program, before the one that is active now
   Meldungen aufgeschoben_;            ///< of a field that has been left
+  QTimer endetakt_;                   ///< runs when the end is demanded and something is in its way
   bool beendet_ = false;
 };
 

@@ -6,6 +6,9 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "app/Pfadtext.h"
+#include "persistence/Dateien.h"
+#include "persistence/Neufassung.h"
 #include "platform/Plattform.h"
 
 using namespace Qt::StringLiterals;
@@ -36,23 +39,34 @@ QString Datenverzeichnis(const QString& anwendung) {
 }  // namespace
 
 Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& anwendung) {
-  return {Programmverzeichnis(gewuenscht, anwendung), Datenverzeichnis(anwendung)};
+  Verzeichnisse v{Programmverzeichnis(gewuenscht, anwendung), Datenverzeichnis(anwendung)};
+  // The toolkit puts this character in the place of bytes that are no text.
+  const QChar ersatz = QChar::ReplacementCharacter;
+  if (v.programm.contains(ersatz) && !gewuenscht.contains(ersatz)) v.programm.clear();
+  return v;
 }
 
-void MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher) {
-  QDir().mkpath(verzeichnisse.programm);
-  if (verzeichnisse.daten.isEmpty()) return;
+std::string MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher) {
+  std::error_code fehler;
+  std::filesystem::create_directories(AlsPfad(verzeichnisse.programm), fehler);
+  if (fehler) return Fehlertext(fehler.default_error_condition().value());
+  if (verzeichnisse.daten.isEmpty()) return {};
   const QString schluessel = QString::fromLatin1(QUrl::toPercentEncoding(verzeichnisse.programm));
+  std::string hindernis;
   for (const QString& name : {u"Kabel.txt"_s, u"Antennen.txt"_s, u"TIPOFDAY.TXT"_s}) {
     if (speicher.Lesen(name, schluessel)) continue;
     const QString ziel = verzeichnisse.programm + u'/' + name;
     if (!QFileInfo::exists(ziel)) {
-      if (!QFile::copy(verzeichnisse.daten + u'/' + name, ziel)) continue;
+      if (Fehlergrund grund = DateiKopieren(AlsPfad(verzeichnisse.daten + u'/' + name), AlsPfad(ziel))) {
+        hindernis = *grund;
+        continue;
+      }
       // What is copied from a read-only place must stay editable.
       QFile::setPermissions(ziel, QFile::permissions(ziel) | QFile::WriteOwner);
     }
     speicher.Schreiben(name, schluessel, u"1"_s);
   }
+  return hindernis;
 }
 
 }  // namespace vesk

@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+#include <string>
 
 namespace vesk {
 
@@ -7,16 +8,19 @@ class Benutzerspeicher;
 
 /// Directories of a running program.
 struct Verzeichnisse {
-  QString programm;  ///< the user's files and catalogues
-  QString daten;     ///< what is shipped: catalogues, tips, help pages; empty when it is not found
+  QString programm;         ///< the user's files and catalogues
+  QString daten;            ///< what is shipped: catalogues, tips, help pages; empty when it is not found
+  std::string hindernis{};  ///< why nothing can be put into `programm`; what is shipped is read where it is
 };
 
 /// `gewuenscht` is --verzeichnis; else the directory of the executable (`anwendung`) when it is writable and
-/// holds user.dat or Kabel.txt; else the per-user data directory. Changes nothing on the disk.
+/// holds user.dat or Kabel.txt; else the per-user data directory. Changes nothing on the disk. `programm` is
+/// empty when its name cannot be told as a text: another directory must not take its place.
 Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& anwendung);
 
 /// Creates the program directory if it is missing and copies the shipped catalogues and tips there, so that
-/// the user may edit them. A file is copied once: one that the user has deleted stays deleted.
-void MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher);
+/// the user may edit them. A file is copied once: one that the user has deleted stays deleted. Returns why it
+/// was not possible; empty: it was.
+std::string MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher);
 
 }  // namespace vesk

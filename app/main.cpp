@@ -35,16 +35,31 @@ int FensterOeffnen(int anzahl, char** argumente, const vesk::Aufruf& aufruf) {
     QApplication::installTranslator(&uebersetzung);
   }
 
-  const vesk::Verzeichnisse verzeichnisse =
+  vesk::Verzeichnisse verzeichnisse =
       vesk::VerzeichnisseBestimmen(aufruf.verzeichnis, QApplication::applicationDirPath());
   vesk::Desktop desktop(verzeichnisse);
-  vesk::MitgelieferteKopieren(verzeichnisse, desktop.speicher);
+  if (verzeichnisse.programm.isEmpty()) {
+    QObject::connect(&ende, &vesk::Endesignal::verlangt, qApp, &QApplication::closeAllWindows);
+    ende.Lauschen();
+    desktop.plattform.boxen.Zeigen(vesk::Fehlermeldung(
+        "Der Name des Verzeichnisses für Ihre Daten enthält Zeichen, die nicht lesbar sind (kein UTF-8). "
+        "Bitte geben Sie mit --verzeichnis ein anderes an."));
+    return 1;
+  }
+  verzeichnisse.hindernis = vesk::MitgelieferteKopieren(verzeichnisse, desktop.speicher);
   vesk::Station station;
   vesk::Programm programm(station, desktop.plattform, verzeichnisse);
   // exit, not quit: quit would close the windows, and closing the options window means something.
   QObject::connect(
-      &programm, &vesk::Programm::beendet, qApp, [] { QApplication::exit(0); }, Qt::QueuedConnection);
-  QObject::connect(&ende, &vesk::Endesignal::verlangt, &programm, &vesk::Programm::Beenden);
+      &programm, &vesk::Programm::beendet, qApp,
+      [](int rueckgabe) {
+        if (rueckgabe != 0)
+          std::cerr << "vesk: Ungesicherte Änderungen werden beim nächsten Start angeboten.\n";
+        QApplication::exit(rueckgabe);
+      },
+      Qt::QueuedConnection);
+  QObject::connect(&ende, &vesk::Endesignal::verlangt, &programm, &vesk::Programm::EndeVerlangt);
+  QObject::connect(&ende, &vesk::Endesignal::angekuendigt, &programm, &vesk::Programm::RettungSichern);
   ende.Lauschen();
   // In the event loop, so that a box of the start can be ended by a signal, too.
   QTimer::singleShot(0, &programm, [&] {
@@ -62,10 +77,11 @@ int main(int anzahl, char** argumente) {
   std::ios::sync_with_stdio(false);
   QCoreApplication::setApplicationName(u"Vesk"_s);
   QCoreApplication::setOrganizationName(u"Vesk"_s);
-  QStringList texte;
-  for (int i = 1; i < anzahl; ++i) texte.append(QString::fromLocal8Bit(argumente[i]));
+  const std::optional<QStringList> texte = vesk::ArgumenteLesen(anzahl, argumente, std::cerr);
+  if (!texte) return 2;
   const char trenner = vesk::Dezimaltrenner(QLocale::system());
-  const vesk::Aufruf aufruf = vesk::KommandozeileAusfuehren(texte, trenner, {std::cin, std::cout, std::cerr});
+  const vesk::Aufruf aufruf =
+      vesk::KommandozeileAusfuehren(*texte, trenner, {std::cin, std::cout, std::cerr});
   if (aufruf.rueckgabe) return *aufruf.rueckgabe;
   if (!vesk::BildschirmVorhanden()) {
     std::cerr << "vesk: Es ist kein Bildschirm da. Im Terminal rechnet: vesk rechnen --help\n";

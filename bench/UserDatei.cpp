@@ -4,6 +4,7 @@
 
 #include "../tests/persistence/Muster.h"
 #include "persistence/Dateien.h"
+#include "persistence/Dateigrenzen.h"
 
 namespace vesk {
 namespace {
@@ -30,7 +31,7 @@ BENCHMARK(VolleDateiSchreiben);
 // The largest file that is read at all, filled with what takes the reader longest.
 void RiesigeDatei(benchmark::State& lauf, std::string_view muster) {
   std::string bytes;
-  while (bytes.size() < MaxDateigroesse) bytes += muster;
+  while (bytes.size() < grenzen::UserDatei) bytes += muster;
   Station stand;
   for ([[maybe_unused]] auto _ : lauf) benchmark::DoNotOptimize(UserDateiLesen(bytes, stand));
 }

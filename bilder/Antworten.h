@@ -1,9 +1,8 @@
 #pragma once
-#include <QHash>
 #include <QStringList>
 #include <stdexcept>
 
-#include "platform/Plattform.h"
+#include "platform/Buehne.h"
 
 /// A desktop where the only user is the manual's example.
 namespace vesk::bilder {
@@ -28,21 +27,6 @@ class Dialoge : public Dateidialoge {
 class KeineHilfe : public Hilfe {
  public:
   void Aufrufen(const QString&, Hilfebefehl, int) override {}
-};
-
-/// Forgotten with the process.
-class Speicher : public Benutzerspeicher {
- public:
-  std::optional<QString> Lesen(const QString& abschnitt, const QString& schluessel) override {
-    const auto wert = werte_.constFind(abschnitt + u'/' + schluessel);
-    return wert == werte_.constEnd() ? std::nullopt : std::optional(*wert);
-  }
-  void Schreiben(const QString& abschnitt, const QString& schluessel, const QString& wert) override {
-    werte_.insert(abschnitt + u'/' + schluessel, wert);
-  }
-
- private:
-  QHash<QString, QString> werte_;
 };
 
 /// A field that refuses what the chapter types.
@@ -72,16 +56,6 @@ class OhneAnzeige : public Fortschrittsanzeige {
   }
 };
 
-struct Buehne {
-  Boxen boxen;
-  Dialoge dialoge;
-  KeineHilfe hilfe;
-  Speicher speicher;
-  Ton ton;
-  KeinDrucker drucker;
-  KeinBetrachter betrachter;
-  OhneAnzeige fortschritt;
-  Plattform plattform{boxen, dialoge, hilfe, speicher, ton, drucker, betrachter, fortschritt};
-};
+using Buehne = vesk::Buehne<Boxen, Dialoge, KeineHilfe, Ton, KeinDrucker, KeinBetrachter, OhneAnzeige>;
 
 }  // namespace vesk::bilder

@@ -6,7 +6,8 @@
 
 namespace vesk {
 
-enum class Antwort : std::int16_t { OK = 1, Ja = 6, Nein = 7 };
+/// Keine: a question that was taken away before it was answered; whatever it would have done is left undone.
+enum class Antwort : std::int16_t { OK = 1, Keine = 2, Ja = 6, Nein = 7 };
 enum class Knoepfe { OK, JaNein };
 enum class Symbol { Ausrufezeichen, Frage };
 

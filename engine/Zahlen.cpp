@@ -25,10 +25,12 @@ bool UeberEins(std::string_view zahl) {
   std::string_view exponent = zahl.substr(std::min(e + 1, zahl.size()));
   const bool negativ = exponent.starts_with('-');
   if (negativ || exponent.starts_with('+')) exponent.remove_prefix(1);
-  long wert = 0;
+  // More than the digits of any text can make up for.
+  constexpr std::int64_t Riesig = std::numeric_limits<std::int64_t>::max() / 4;
+  std::int64_t wert = 0;
   const auto fehler = std::from_chars(exponent.data(), exponent.data() + exponent.size(), wert).ec;
-  if (fehler == std::errc::result_out_of_range) return !negativ;
-  const long stelle = static_cast<long>(punkt) - static_cast<long>(erste);
+  if (fehler == std::errc::result_out_of_range || wert > Riesig) return !negativ;
+  const std::int64_t stelle = static_cast<std::int64_t>(punkt) - static_cast<std::int64_t>(erste);
   return stelle + (negativ ? -wert : wert) > 0;
 }
 

@@ -1,16 +1,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
+#include "fuzz/Vorrat.h"
 #include "persistence/Antennendatei.h"
 
-namespace {
+using vesk::Pruefen;
 
-void Pruefen(bool gut) {
-  if (!gut) std::abort();
-}
+namespace {
 
 void WahlPruefen(const vesk::Antenne& antenne) {
   Pruefen(antenne.baender.size() <= vesk::AntennenBaender);

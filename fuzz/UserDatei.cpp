@@ -3,17 +3,15 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <tuple>
 #include <utility>
 
-#include "../tests/persistence/Muster.h"
+#include "fuzz/Vorrat.h"
+#include "tests/persistence/Muster.h"
+
+using vesk::Pruefen;
 
 namespace {
-
-void Pruefen(bool gut) {
-  if (!gut) std::abort();
-}
 
 /// Everything that the file holds.
 bool GleicherInhalt(const vesk::Station& a, const vesk::Station& b) {
@@ -27,7 +25,7 @@ bool GleicherInhalt(const vesk::Station& a, const vesk::Station& b) {
 }
 
 /// What was read once is written and read again without any further change.
-void Pruefen(vesk::Station gelesen) {
+void RundreisePruefen(vesk::Station gelesen) {
   vesk::FaktorenNormalisieren(gelesen);
   const std::string geschrieben = UserDateiSchreiben(gelesen);
   vesk::Station nochmals;
@@ -43,6 +41,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
   // What the file does not say stays: half of the files meet a station that is full already.
   vesk::Station station = laenge % 2 == 0 ? vesk::Station() : vesk::Musterstation();
   vesk::UserDateiLesen({reinterpret_cast<const char*>(daten), laenge}, station);
-  Pruefen(std::move(station));
+  RundreisePruefen(std::move(station));
   return 0;
 }

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "engine/Version.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Pfade.h"
 #include "station/Datenblatt.h"
 #include "station/Operator.h"
@@ -47,39 +48,6 @@ void Dateiablauf::InitLaden() {
   Einlesen(false);
 }
 
-void Dateiablauf::RettungAnbieten() {
-  const Vorgang vorgang(*this);
-  if (!vorgang) return;
-  for (const Rettung::Fund& fund : Rettung::Suchen(PfadAusUtf8(station_.ProgrammVerzeichnis))) {
-    const std::string von =
-        fund.datei.empty() ? "für ein neues Rufzeichen" : "an " + PfadAlsUtf8(fund.datei.filename());
-    const Hinweis frage{std::string(Produktname),
-                        "Das Programm wurde nicht ordentlich beendet. Es gibt ungesicherte Änderungen " +
-                            von + ".\nSollen sie zurückgeholt werden?",
-                        Knoepfe::JaNein, Symbol::Frage, Antwort::Ja};
-    if (rueckfragen_.Fragen(frage) == Antwort::Ja) {
-      Zurueckholen(fund);
-      return;
-    }
-    std::error_code egal;
-    fs::remove(fund.pfad, egal);
-  }
-}
-
-void Dateiablauf::Zurueckholen(const Rettung::Fund& fund) {
-  if (!fund.datei.empty() && fund.datei != Pfad()) {
-    DateiWechseln(fund.datei);
-    Leeren();
-    Einlesen(false);
-  }
-  Leeren();
-  BytesLesen(fund.bytes);
-  station_.neuesRufzeichen = fund.datei.empty();
-  station_.UserGeaendert = true;
-  station_.titelGesetzt = true;
-  rettung_.Fortsetzen(fund);
-}
-
 // ---------------------------------------------------------------------------------------------- reading
 
 /// Another file's data come: nothing is left that belongs to the former ones.
@@ -106,11 +74,12 @@ void Dateiablauf::Einlesen(bool gewaehlt) {
   }
   gespeichert_ = BlattJetzt();
   rettung_.Gesichert(UserDateiSchreiben(station_));
+  RettungErneuern();
 }
 
 void Dateiablauf::Auswerten(const Gelesen& datei, bool gewaehlt) {
   const Lesebericht bericht = BytesLesen(datei.bytes);
-  alteFassungNoetig_ = !bericht.verlustfrei || bericht.abgebrochen || datei.abgeschnitten;
+  alteFassungNoetig_ = !bericht.verlustfrei || bericht.abgebrochen;
   if (bericht.User) station_.titelGesetzt = true;
   AnderswoMelden();
   if (gewaehlt && bericht.abgebrochen) {
@@ -164,7 +133,8 @@ void Dateiablauf::AnderswoMelden() {
 
 /// Otherwise says why not, and what follows from it. `ganz`: one that ends too early is not.
 bool Dateiablauf::Brauchbar(const fs::path& pfad, const std::string& folge, bool ganz) {
-  const Fehlergrund grund = WarumUnbrauchbar(PfadAlsUtf8(pfad.filename()), DateiLesen(pfad), ganz);
+  const Fehlergrund grund =
+      WarumUnbrauchbar(PfadAlsUtf8(pfad.filename()), DateiLesen(pfad, grenzen::UserDatei), ganz);
   return !grund || Fehler(*grund, folge);
 }
 
@@ -190,7 +160,7 @@ void Dateiablauf::Wechseln(const fs::path& gewaehlt) {
   if (!InsProgrammverzeichnis(gewaehlt)) return;
   DateiWechseln(PfadAusUtf8(station_.ProgrammVerzeichnis) / gewaehlt.filename());
   // Left where it is, a file is missing here: the data stay and get its name.
-  if (DateiLesen(Pfad()).status != Lesestatus::Fehlt) Leeren();
+  if (DateiLesen(Pfad(), grenzen::UserDatei).status != Lesestatus::Fehlt) Leeren();
   Einlesen(true);
 }
 
@@ -208,12 +178,12 @@ bool Dateiablauf::InsProgrammverzeichnis(const fs::path& gewaehlt) {
       Antwort::Ja,
   };
   const fs::path ziel = PfadAusUtf8(station_.ProgrammVerzeichnis) / gewaehlt.filename();
-  const Gelesen dort = DateiLesen(ziel);
+  const Gelesen dort = DateiLesen(ziel, grenzen::UserDatei);
   if (rueckfragen_.Fragen(frage) != Antwort::Ja) {
     return dort.status == Lesestatus::Fehlt || Brauchbar(ziel, folge);
   }
   const bool dieselbe =
-      dort.status == Lesestatus::Gelesen && !dort.abgeschnitten && dort.bytes == DateiLesen(gewaehlt).bytes;
+      dort.status == Lesestatus::Gelesen && dort.bytes == DateiLesen(gewaehlt, grenzen::UserDatei).bytes;
   if (dieselbe) return true;
   Fehlergrund grund;
   if (dort.status != Lesestatus::Fehlt) grund = DateiKopieren(ziel, FreierAltname(ziel));

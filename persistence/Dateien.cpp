@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Neufassung.h"
 
 namespace vesk {
@@ -15,7 +16,7 @@ namespace {
 
 Gelesen Lesefehler(int nummer) {
   const bool fehlt = nummer == ENOENT || nummer == ENOTDIR;
-  return {fehlt ? Lesestatus::Fehlt : Lesestatus::Fehler, {}, false, fehlt ? "" : Fehlertext(nummer)};
+  return {fehlt ? Lesestatus::Fehlt : Lesestatus::Fehler, {}, fehlt ? "" : Fehlertext(nummer)};
 }
 
 template <typename Schritte>
@@ -24,25 +25,37 @@ Fehlergrund Versuchen(Schritte schritte) {
     schritte();
     return std::nullopt;
   } catch (const std::system_error& fehler) {
-    return Fehlertext(fehler.code().value());
+    return Fehlertext(fehler);
   }
 }
 
+void Ersetzen(Neufassung&& neu, std::string_view bytes) {
+  neu.Schreiben(bytes);
+  neu.Ersetzen();
+  neu.VerzeichnisSichern();
+}
+
 }  // namespace
+
+std::string ZuGross(std::size_t hoechstens) {
+  const bool inMB = hoechstens >= grenzen::MB;
+  return "Sie ist größer als " + std::to_string(hoechstens / (inMB ? grenzen::MB : grenzen::KB)) +
+         (inMB ? " MB" : " KB") + "; so groß ist keine Datei von Vesk.";
+}
 
 Gelesen DateiLesen(const fs::path& pfad, std::size_t hoechstens) try {
   const Deskriptor datei = ZumLesenOeffnen(pfad);
   // One byte more than the size shows that the end has been reached, or that the file goes on.
   const auto groesse = static_cast<std::size_t>(std::min<std::uintmax_t>(Groesse(datei), hoechstens));
-  Gelesen ergebnis{Lesestatus::Gelesen, std::string(groesse + 1, '\0'), false, {}};
+  Gelesen ergebnis{Lesestatus::Gelesen, std::string(groesse + 1, '\0'), {}};
   std::size_t gelesen = 0;
   while (gelesen < ergebnis.bytes.size()) {
     const std::size_t anzahl = Lesen(datei, ergebnis.bytes.data() + gelesen, ergebnis.bytes.size() - gelesen);
     if (anzahl == 0) break;
     gelesen += anzahl;
   }
-  ergebnis.abgeschnitten = gelesen > hoechstens;
-  ergebnis.bytes.resize(std::min(gelesen, hoechstens));
+  if (gelesen > hoechstens) return {Lesestatus::Fehler, {}, ZuGross(hoechstens)};
+  ergebnis.bytes.resize(gelesen);
   return ergebnis;
 } catch (const std::system_error& fehler) {
   return Lesefehler(fehler.code().value());
@@ -58,19 +71,17 @@ Fehlergrund WarumOhneInhalt(const std::string& name, const Gelesen& datei) {
 }
 
 Fehlergrund DateiSchreiben(const fs::path& pfad, std::string_view bytes) {
-  return Versuchen([&] {
-    Neufassung neu(pfad);
-    neu.Schreiben(bytes);
-    neu.Ersetzen();
-    neu.VerzeichnisSichern();
-  });
+  return Versuchen([&] { Ersetzen(Neufassung(pfad), bytes); });
+}
+
+Fehlergrund DateiSchreiben(const fs::path& pfad, std::string_view bytes, const fs::path& vorbild) {
+  return Versuchen([&] { Ersetzen(Neufassung(pfad, vorbild), bytes); });
 }
 
 Fehlergrund DateiKopieren(const fs::path& von, const fs::path& nach) {
   return Versuchen([&] {
     const Deskriptor quelle = ZumLesenOeffnen(von);
-    Neufassung neu(nach);
-    neu.RechteWie(quelle);
+    Neufassung neu(nach, von);
     std::array<char, 65536> puffer{};
     while (const std::size_t anzahl = Lesen(quelle, puffer.data(), puffer.size())) {
       neu.Schreiben({puffer.data(), anzahl});

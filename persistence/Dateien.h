@@ -8,20 +8,19 @@
 /// Whole files. Reasons of failures are German sentences for the user (UTF-8).
 namespace vesk {
 
-/// More than any file of the program can hold.
-inline constexpr std::size_t MaxDateigroesse = std::size_t{16} * 1024 * 1024;
-
 enum class Lesestatus { Gelesen, Fehlt, Fehler };
 
 struct Gelesen {
   Lesestatus status = Lesestatus::Fehlt;
   std::string bytes;
-  bool abgeschnitten = false;  ///< the file is longer than was asked for
-  std::string grund;           ///< of `Fehler`
+  std::string grund;  ///< of `Fehler`
 };
 
-/// The first `hoechstens` bytes of a regular file. Never waits, whatever stands under that name.
-Gelesen DateiLesen(const std::filesystem::path& pfad, std::size_t hoechstens = MaxDateigroesse);
+/// A regular file of up to `hoechstens` bytes; a longer one is a `Fehler`. Never waits, whatever stands under
+/// that name.
+Gelesen DateiLesen(const std::filesystem::path& pfad, std::size_t hoechstens);
+/// "Sie ist größer als 64 KB …"
+std::string ZuGross(std::size_t hoechstens);
 
 /// Nothing, or why it failed.
 using Fehlergrund = std::optional<std::string>;
@@ -33,6 +32,9 @@ Fehlergrund WarumOhneInhalt(const std::string& name, const Gelesen& datei);
 /// there whole, and on return the new one is on the disk. A failure leaves the old file as it was. Keeps
 /// permissions and follows symbolic links.
 [[nodiscard]] Fehlergrund DateiSchreiben(const std::filesystem::path& pfad, std::string_view bytes);
+/// The same; a new file gets the permissions of `vorbild`.
+[[nodiscard]] Fehlergrund DateiSchreiben(const std::filesystem::path& pfad, std::string_view bytes,
+                                         const std::filesystem::path& vorbild);
 
 /// Copies in the same manner, whatever the size.
 [[nodiscard]] Fehlergrund DateiKopieren(const std::filesystem::path& von, const std::filesystem::path& nach);

@@ -4,10 +4,12 @@
 
 #include "engine/Version.h"
 #include "persistence/Dateiablauf.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Pfade.h"
 #include "station/Haupthandlungen.h"
 #include "station/Operator.h"
 #include "station/Text.h"
+#include "station/Winkel.h"
 
 namespace vesk {
 
@@ -60,19 +62,20 @@ bool Dateiablauf::Beenden() {
   if (beendet_) return true;
   const Vorgang vorgang(*this);
   if (!vorgang) return false;
+  // Whoever ends the machine may not wait for the answers.
+  RettungErneuern();
   const bool gerettet = Sichern() || NichtsZuVerlieren();
   const std::string grund =
       station_.neuesRufzeichen ? "Die Daten des neuen Rufzeichens sind noch nicht gesichert.\n" : "";
   if (!gerettet && !Frage(std::string(Produktname), grund + "Programm trotzdem beenden?")) return false;
+  if (WinkelUngesichert(station_) &&
+      !Frage(std::string(Produktname),
+             "Die Winkeltabelle wurde geändert und nicht gespeichert.\nProgramm trotzdem beenden?")) {
+    return false;
+  }
   beendet_ = true;
-  rettung_.Gesichert({});
+  rettung_.Aufgeben();
   return true;
-}
-
-void Dateiablauf::RettungSichern() {
-  if (laeuft_ || beendet_) return;
-  rettung_.Sichern(PfadAusUtf8(station_.ProgrammVerzeichnis), station_.neuesRufzeichen ? fs::path() : Pfad(),
-                   UserDateiSchreiben(station_));
 }
 
 bool Dateiablauf::NichtsZuVerlieren() const {
@@ -130,6 +133,9 @@ bool Dateiablauf::SpeichernUnter() {
 bool Dateiablauf::Schreiben(bool auchFremdes) {
   FaktorenNormalisieren(station_);
   const std::string bytes = UserDateiSchreiben(station_);
+  const std::string gescheitert = "Die Datei " + station_.UserDatei + " konnte nicht gespeichert werden.";
+  // What could not be read again must not replace what can.
+  if (bytes.size() > grenzen::UserDatei) return Fehler(gescheitert, ZuGross(grenzen::UserDatei));
   if (alteFassungNoetig_ && !AlteFassungBehalten()) return false;
 
   Dateistand::Ergebnis ergebnis = stand_.Schreiben(Pfad(), bytes, auchFremdes);
@@ -137,20 +143,23 @@ bool Dateiablauf::Schreiben(bool auchFremdes) {
     return false;
   }
   if (ergebnis.ausgang == Dateistand::Ausgang::Fehler) {
-    return Fehler("Die Datei " + station_.UserDatei + " konnte nicht gespeichert werden.", ergebnis.grund);
+    return Fehler(gescheitert, ergebnis.grund);
   }
   station_.UserGeaendert = false;
   station_.titelGesetzt = true;
   station_.fenster.benutzer = false;
   gespeichert_ = BlattJetzt();
   rettung_.Gesichert(bytes);
+  RettungErneuern();
   return true;
 }
 
 bool Dateiablauf::FremdesUeberschreiben(const std::string& bytes, Dateistand::Ergebnis& ergebnis) {
+  const bool lesbar = DateiLesen(Pfad(), grenzen::UserDatei).status != Lesestatus::Fehler;
   const std::string frage =
       "Die Datei " + station_.UserDatei +
-      " wurde inzwischen von einem anderen Programm geändert.\nSoll sie mit den Daten aus "
+      (lesbar ? " wurde inzwischen von einem anderen Programm geändert." : " konnte nicht gelesen werden.") +
+      "\nSoll sie mit den Daten aus "
       "diesem Fenster überschrieben werden? Die andere Fassung bleibt dann als " +
       PfadAlsUtf8(FreierAltname(Pfad()).filename()) + " erhalten.";
   if (!Frage(std::string(Produktname), frage) || !AlteFassungBehalten()) return false;

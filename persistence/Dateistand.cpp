@@ -2,12 +2,14 @@
 
 #include <system_error>
 
+#include "persistence/Dateigrenzen.h"
+
 namespace vesk {
 
 namespace fs = std::filesystem;
 
 Gelesen Dateistand::Lesen(const fs::path& pfad) {
-  Gelesen gelesen = DateiLesen(pfad);
+  Gelesen gelesen = DateiLesen(pfad, grenzen::UserDatei);
   // A file that exists but cannot be read stays unknown, so that it is not overwritten unasked.
   pfad_ = gelesen.status == Lesestatus::Fehler ? fs::path() : pfad;
   inhalt_.reset();
@@ -22,11 +24,11 @@ bool Dateistand::AndereArbeitenAn(const fs::path& pfad) const {
 }
 
 bool Dateistand::Fremd(const fs::path& pfad, std::string_view bytes) const {
-  const Gelesen jetzt = DateiLesen(pfad);
+  const Gelesen jetzt = DateiLesen(pfad, grenzen::UserDatei);
   if (jetzt.status == Lesestatus::Fehlt) return false;
   if (jetzt.status == Lesestatus::Fehler) return true;
   const bool bekannt = pfad == pfad_ && inhalt_ && jetzt.bytes == *inhalt_;
-  return !bekannt && (jetzt.bytes != bytes || jetzt.abgeschnitten);
+  return !bekannt && jetzt.bytes != bytes;
 }
 
 Dateistand::Ergebnis Dateistand::Schreiben(const fs::path& pfad, std::string_view bytes, bool auchFremdes) {
@@ -42,7 +44,7 @@ Dateistand::Ergebnis Dateistand::Schreiben(const fs::path& pfad, std::string_vie
     neu.VerzeichnisSichern();
     return {Ausgang::Geschrieben, {}};
   } catch (const std::system_error& fehler) {
-    return {Ausgang::Fehler, Fehlertext(fehler.code().value())};
+    return {Ausgang::Fehler, Fehlertext(fehler)};
   }
 }
 

@@ -33,8 +33,12 @@ class Deskriptor {
 
 /// A regular file. Never waits, whatever stands under that name.
 Deskriptor ZumLesenOeffnen(const std::filesystem::path& pfad);
-/// For writing. Takes over a file that is there, but follows no link.
-Deskriptor ZumSchreibenAnlegen(const std::filesystem::path& pfad);
+/// A file for writing that was not there before; none when anything stands under that name. `vertraulich`:
+/// for its owner alone.
+Deskriptor NeuAnlegen(const std::filesystem::path& pfad, bool vertraulich);
+/// A file for writing that an earlier call of NeuAnlegen has left: regular, this user's own and under this
+/// name alone; none when nothing stands there. Fails with EEXIST where it is anything else. Follows no link.
+Deskriptor RestOeffnen(const std::filesystem::path& pfad, bool vertraulich);
 
 std::uintmax_t Groesse(const Deskriptor& datei);
 /// Up to `hoechstens` bytes from where the last reading ended; 0: the file has ended.
@@ -47,8 +51,8 @@ void Festschreiben(const Deskriptor& datei);
 
 /// Fails when the file is write-protected: renaming would pass over that.
 void SchreibrechtPruefen(const std::filesystem::path& pfad);
-/// Where a system keeps them with the file: its permissions ...
-void RechteWie(const Deskriptor& datei, const Deskriptor& vorbild);
+/// Where a system keeps them with the file: its permissions, as far as there is such a file ...
+void RechteWie(const Deskriptor& datei, const std::filesystem::path& vorbild);
 /// ... and its owner, too.
 void RechteUndEigentuemerWie(const Deskriptor& datei, const std::filesystem::path& vorbild);
 

@@ -35,9 +35,21 @@ Deskriptor ZumLesenOeffnen(const fs::path& pfad) {
   return datei;
 }
 
-Deskriptor ZumSchreibenAnlegen(const fs::path& pfad) {
-  Deskriptor datei(open(pfad.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
-  if (!datei) Scheitern();
+Deskriptor NeuAnlegen(const fs::path& pfad, bool vertraulich) {
+  Deskriptor datei(open(pfad.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, vertraulich ? 0600 : 0666));
+  if (!datei && errno != EEXIST) Scheitern();
+  return datei;
+}
+
+Deskriptor RestOeffnen(const fs::path& pfad, bool vertraulich) {
+  Deskriptor datei(open(pfad.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (!datei && errno == ENOENT) return datei;
+  struct stat angaben {};
+  // A file with a second name is somebody's who wants it emptied.
+  const bool eigener = datei && fstat(*datei, &angaben) == 0 && S_ISREG(angaben.st_mode) &&
+                       angaben.st_nlink <= 1 && angaben.st_uid == geteuid();
+  if (!eigener) Scheitern(EEXIST);
+  if (vertraulich) fchmod(*datei, 0600);
   return datei;
 }
 
@@ -76,9 +88,9 @@ void SchreibrechtPruefen(const fs::path& pfad) {
   if (faccessat(AT_FDCWD, pfad.c_str(), W_OK, AT_EACCESS) != 0) Scheitern();
 }
 
-void RechteWie(const Deskriptor& datei, const Deskriptor& vorbild) {
+void RechteWie(const Deskriptor& datei, const fs::path& vorbild) {
   struct stat angaben {};
-  if (fstat(*vorbild, &angaben) == 0) fchmod(*datei, angaben.st_mode & 0777U);
+  if (stat(vorbild.c_str(), &angaben) == 0) fchmod(*datei, angaben.st_mode & 0777U);
 }
 
 void RechteUndEigentuemerWie(const Deskriptor& datei, const fs::path& vorbild) {

@@ -84,7 +84,8 @@ Deskriptor Oeffnen(const fs::path& pfad, DWORD zugriff, DWORD wie, DWORD zeichen
 
 /// What all paths to the file have in common, as the name of an object of the system.
 std::wstring Objektname(const fs::path& pfad) {
-  std::wstring ort = fs::absolute(pfad).parent_path().wstring();
+  std::error_code egal;
+  std::wstring ort = fs::absolute(pfad, egal).parent_path().wstring();
   const Deskriptor ordner = Oeffnen(ort, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
   std::wstring endgueltig(32768, L'\0');
   const auto platz = static_cast<DWORD>(endgueltig.size());
@@ -111,10 +112,24 @@ Deskriptor ZumLesenOeffnen(const fs::path& pfad) {
   return datei;
 }
 
-Deskriptor ZumSchreibenAnlegen(const fs::path& pfad) {
-  Deskriptor datei = Oeffnen(pfad, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS, FILE_FLAG_OPEN_REPARSE_POINT);
-  if (!datei) OeffnenGescheitert(pfad);
-  if (GetFileType(Griff(datei)) != FILE_TYPE_DISK) Scheitern(ENODEV);
+// In the user's directories a file inherits that it is the user's alone.
+
+Deskriptor NeuAnlegen(const fs::path& pfad, bool) {
+  Deskriptor datei = Oeffnen(pfad, GENERIC_READ | GENERIC_WRITE, CREATE_NEW, FILE_ATTRIBUTE_NORMAL);
+  if (!datei && GetLastError() != ERROR_FILE_EXISTS) OeffnenGescheitert(pfad);
+  if (datei && GetFileType(Griff(datei)) != FILE_TYPE_DISK) Scheitern(ENODEV);
+  return datei;
+}
+
+Deskriptor RestOeffnen(const fs::path& pfad, bool) {
+  constexpr DWORD AnderesAlsDatei = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+  Deskriptor datei = Oeffnen(pfad, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT);
+  if (!datei && Nummer(GetLastError()) == ENOENT) return datei;
+  BY_HANDLE_FILE_INFORMATION angaben{};
+  // A file with a second name is somebody's who wants it emptied.
+  const bool eigener = datei && GetFileInformationByHandle(Griff(datei), &angaben) != 0 &&
+                       (angaben.dwFileAttributes & AnderesAlsDatei) == 0 && angaben.nNumberOfLinks <= 1;
+  if (!eigener) Scheitern(EEXIST);
   return datei;
 }
 
@@ -159,7 +174,7 @@ void SchreibrechtPruefen(const fs::path& pfad) {
 }
 
 // A file inherits its rights from its directory, as the one that it replaces did.
-void RechteWie(const Deskriptor&, const Deskriptor&) {}
+void RechteWie(const Deskriptor&, const fs::path&) {}
 void RechteUndEigentuemerWie(const Deskriptor&, const fs::path&) {}
 
 void Umbenennen(const fs::path& von, const fs::path& nach) {

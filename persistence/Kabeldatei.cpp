@@ -4,6 +4,7 @@
 
 #include "engine/Laufzeitfehler.h"
 #include "engine/Zahlen.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Itemleser.h"
 #include "station/Text.h"
 
@@ -19,7 +20,8 @@ constexpr std::string_view MeldungFehlt = "Kabeldatendatei: Kabel.txt nicht gefu
 constexpr std::string_view MeldungDefekt = "Fehler in Kabeldatendatei: Kabel.txt - RG213 geladen.";
 
 std::string Stelle(const Kabelkatalog& katalog, const std::string& name) {
-  return "Kabel.txt, Eintrag " + std::to_string(katalog.Kabelanzahl + 1) + ": " + name;
+  return "Kabel.txt, Eintrag " + std::to_string(katalog.Kabelanzahl + 1) + ": " +
+         Anfang(name, grenzen::Meldungswort);
 }
 
 /// False when the file ends within the record.

@@ -5,7 +5,9 @@
 
 #include "persistence/Antennendatei.h"
 #include "persistence/Dateien.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Kabeldatei.h"
+#include "persistence/Pfade.h"
 
 namespace vesk {
 
@@ -13,7 +15,20 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::array<fs::path, 2> Katalognamen = {"Kabel.txt", "Antennen.txt"};
+struct Katalogart {
+  fs::path name;
+  std::size_t grenze;
+};
+const std::array<Katalogart, 2> Katalogarten = {
+    Katalogart{"Kabel.txt", grenzen::Kabel},
+    Katalogart{"Antennen.txt", grenzen::Antennen},
+};
+
+const Katalogart* Art(const fs::path& pfad) {
+  const auto* art = std::find_if(Katalogarten.begin(), Katalogarten.end(),
+                                 [&](const Katalogart& eine) { return eine.name == pfad.filename(); });
+  return art == Katalogarten.end() ? nullptr : art;
+}
 
 Kabelkatalog KabelLesen(const Gelesen& datei) {
   if (datei.status == Lesestatus::Gelesen) return KabelLaden(datei.bytes);
@@ -26,31 +41,38 @@ Antennenkatalog AntennenLesen(const Gelesen& datei) {
   return datei.status == Lesestatus::Fehlt ? Antennenkatalog() : AntennenUnlesbar(datei.grund);
 }
 
+Gelesen Lesen(const Katalogart& art, const fs::path& verzeichnis, const fs::path& ersatz) {
+  Gelesen datei = DateiLesen(verzeichnis / art.name, art.grenze);
+  const bool woanders = datei.status == Lesestatus::Fehlt && !ersatz.empty();
+  return woanders ? DateiLesen(ersatz / art.name, art.grenze) : datei;
+}
+
 }  // namespace
 
 bool IstKatalog(const fs::path& pfad) {
-  return std::count(Katalognamen.begin(), Katalognamen.end(), pfad.filename()) != 0;
+  return Art(pfad) != nullptr;
 }
 
 bool KatalogErsetzen(const fs::path& pfad, const fs::path& verzeichnis, Rueckfragen& rueckfragen) {
-  const std::string name = pfad.filename().string();
-  const fs::path ziel = verzeichnis / name;
-  const Gelesen neu = DateiLesen(pfad);
+  const Katalogart& art = *Art(pfad);
+  const std::string name = PfadAlsUtf8(art.name);
+  const fs::path ziel = verzeichnis / art.name;
+  const Gelesen neu = DateiLesen(pfad, art.grenze);
   const auto fehler = [&](const std::string& grund) {
     rueckfragen.Fragen(Fehlermeldung(name + " wurde nicht übernommen.\n" + grund));
     return false;
   };
   if (const Fehlergrund grund = WarumOhneInhalt(name, neu)) return fehler(*grund);
-  const bool brauchbar = name == Katalognamen[0]
+  const bool brauchbar = &art == Katalogarten.data()
                              ? !KabelLesen(neu).fehler && KabelLesen(neu).Meldung.empty()
                              : !AntennenLesen(neu).fehler && !AntennenLesen(neu).Antennen.empty();
   if (!brauchbar) return fehler("Die Datei hat nicht den Aufbau eines solchen Katalogs.");
-  const Gelesen bisher = DateiLesen(ziel);
+  const Gelesen bisher = DateiLesen(ziel, art.grenze);
   if (bisher.status == Lesestatus::Gelesen && bisher.bytes == neu.bytes) return false;
   const fs::path alt = FreierAltname(ziel);
   const std::string bleibt = bisher.status == Lesestatus::Fehlt
                                  ? ""
-                                 : "\nDer bisherige bleibt als " + alt.filename().string() + " erhalten.";
+                                 : "\nDer bisherige bleibt als " + PfadAlsUtf8(alt.filename()) + " erhalten.";
   const Hinweis frage{"Katalog übernehmen", "Soll " + name + " der Katalog des Programms werden?" + bleibt,
                       Knoepfe::JaNein, Symbol::Frage, Antwort::Ja};
   if (rueckfragen.Fragen(frage) != Antwort::Ja) return false;
@@ -60,9 +82,10 @@ bool KatalogErsetzen(const fs::path& pfad, const fs::path& verzeichnis, Rueckfra
   return !grund || fehler(*grund);
 }
 
-Kataloge KatalogeLesen(const std::filesystem::path& verzeichnis, Meldungen& meldungen) {
-  Kataloge kataloge{KabelLesen(DateiLesen(verzeichnis / "Kabel.txt")),
-                    AntennenLesen(DateiLesen(verzeichnis / "Antennen.txt"))};
+Kataloge KatalogeLesen(const fs::path& verzeichnis, Meldungen& meldungen, const fs::path& ersatz) {
+  const auto& [kabelart, antennenart] = Katalogarten;
+  Kataloge kataloge{KabelLesen(Lesen(kabelart, verzeichnis, ersatz)),
+                    AntennenLesen(Lesen(antennenart, verzeichnis, ersatz))};
   const Kabelkatalog& kabel = kataloge.kabel;
   const Antennenkatalog& antennen = kataloge.antennen;
   if (!kabel.Meldung.empty()) meldungen.push_back({Fehlermeldung(kabel.Meldung)});

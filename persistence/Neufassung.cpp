@@ -6,6 +6,8 @@
 #include <system_error>
 #include <thread>
 
+#include "persistence/Pfade.h"
+
 namespace vesk {
 
 namespace fs = std::filesystem;
@@ -33,14 +35,30 @@ fs::path Verzeichnis(const fs::path& pfad) {
   return pfad.has_parent_path() ? pfad.parent_path() : fs::path(".");
 }
 
+/// Something under the hidden name that no saving has left there.
+class Fremdkoerper : public std::system_error {
+ public:
+  explicit Fremdkoerper(const fs::path& pfad)
+      : std::system_error(EEXIST, std::generic_category()), name(PfadAlsUtf8(pfad.filename())) {}
+  std::string name;
+};
+
+Deskriptor AnlegenOderUebernehmen(const fs::path& pfad, bool vertraulich) try {
+  Deskriptor neu = NeuAnlegen(pfad, vertraulich);
+  return neu ? std::move(neu) : RestOeffnen(pfad, vertraulich);
+} catch (const std::system_error& fehler) {
+  if (fehler.code().value() == EEXIST) throw Fremdkoerper(pfad);
+  throw;
+}
+
 /// Opens and locks the file that becomes the new content. Another saver of the same file is waited for, but
 /// not for long: it may have been stopped.
-Deskriptor NeuOeffnen(const fs::path& pfad) {
+Deskriptor NeuOeffnen(const fs::path& pfad, bool vertraulich) {
   using namespace std::chrono_literals;
   const auto schluss = std::chrono::steady_clock::now() + 2s;
   do {
-    Deskriptor datei = ZumSchreibenAnlegen(pfad);
-    if (SperreVersuchen(datei) == Sperre::Belegt) {
+    Deskriptor datei = AnlegenOderUebernehmen(pfad, vertraulich);
+    if (!datei || SperreVersuchen(datei) == Sperre::Belegt) {
       std::this_thread::sleep_for(10ms);
     } else if (SelbeDatei(datei, pfad)) {
       return datei;
@@ -52,17 +70,20 @@ Deskriptor NeuOeffnen(const fs::path& pfad) {
 
 }  // namespace
 
-Neufassung::Neufassung(const fs::path& pfad) : ziel_(NachVerknuepfungen(pfad)) {
+Neufassung::Neufassung(const fs::path& pfad, std::optional<fs::path> vorbild)
+    : ziel_(NachVerknuepfungen(pfad)), vorbild_(std::move(vorbild)) {
   if (!ziel_.has_filename()) Scheitern(EISDIR);
   std::error_code egal;
   const fs::file_status alt = fs::status(ziel_, egal);
-  zielVorhanden_ = fs::exists(alt);
+  const bool vorhanden = fs::is_regular_file(alt);
   if (fs::is_directory(alt)) Scheitern(EISDIR);
-  if (zielVorhanden_ && !fs::is_regular_file(alt)) Scheitern(ENODEV);
-  if (zielVorhanden_) SchreibrechtPruefen(ziel_);
+  if (!vorhanden && fs::exists(alt)) Scheitern(ENODEV);
+  if (vorhanden) SchreibrechtPruefen(ziel_);
+  if (vorhanden) vorbild_.reset();
   fs::path name = ".";
   neben_ = Verzeichnis(ziel_) / ((name += ziel_.filename()) += ".neu");
-  datei_ = NeuOeffnen(neben_);
+  // Until the new content has the permissions of the old one, nobody else reads it.
+  datei_ = NeuOeffnen(neben_, vorhanden || vorbild_);
   Leeren(datei_);
 }
 
@@ -75,12 +96,12 @@ void Neufassung::Schreiben(std::string_view bytes) {
   vesk::Schreiben(datei_, bytes);
 }
 
-void Neufassung::RechteWie(const Deskriptor& vorbild) {
-  if (!zielVorhanden_) vesk::RechteWie(datei_, vorbild);
-}
-
 void Neufassung::Ersetzen() {
-  RechteUndEigentuemerWie(datei_, ziel_);
+  if (vorbild_) {
+    RechteWie(datei_, *vorbild_);
+  } else {
+    RechteUndEigentuemerWie(datei_, ziel_);
+  }
   Festschreiben(datei_);
   Umbenennen(neben_, ziel_);
   ersetzt_ = true;
@@ -120,6 +141,13 @@ const char* Fehlertext(int nummer) {
     if (zeile.nummer == nummer) return zeile.text;
   }
   return "Das Betriebssystem meldet einen Fehler.";
+}
+
+std::string Fehlertext(const std::system_error& fehler) {
+  const auto* koerper = dynamic_cast<const Fremdkoerper*>(&fehler);
+  if (koerper == nullptr) return Fehlertext(fehler.code().value());
+  return "Zum Speichern wird der Name " + koerper->name +
+         " gebraucht, und dort steht etwas, das nicht von Vesk ist. Bitte entfernen Sie es.";
 }
 
 }  // namespace vesk

@@ -1,6 +1,9 @@
 #pragma once
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include "persistence/Dateisystem.h"
@@ -12,14 +15,15 @@ namespace vesk {
 /// it keeps two savers apart. All functions throw std::system_error.
 class Neufassung {
  public:
-  explicit Neufassung(const std::filesystem::path& pfad);
+  /// A file that is there keeps its permissions. With `vorbild` one that is not there gets those of that
+  /// file, and without such a file it is for its owner alone.
+  explicit Neufassung(const std::filesystem::path& pfad,
+                      std::optional<std::filesystem::path> vorbild = std::nullopt);
   ~Neufassung();
   Neufassung(const Neufassung&) = delete;
   Neufassung& operator=(const Neufassung&) = delete;
 
   void Schreiben(std::string_view bytes);
-  /// Permissions for a file that is new.
-  void RechteWie(const Deskriptor& vorbild);
   /// Flushes and renames. From here on the new content stands in the file.
   void Ersetzen();
   /// Makes the renaming last.
@@ -30,12 +34,14 @@ class Neufassung {
  private:
   std::filesystem::path ziel_;
   std::filesystem::path neben_;
+  std::optional<std::filesystem::path> vorbild_;
   Deskriptor datei_;
-  bool zielVorhanden_ = false;
   bool ersetzt_ = false;
 };
 
 /// German reason for an error number of the system.
 const char* Fehlertext(int nummer);
+/// The same with the name of a foreign file that stands in the way.
+std::string Fehlertext(const std::system_error& fehler);
 
 }  // namespace vesk

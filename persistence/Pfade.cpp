@@ -27,6 +27,12 @@ std::string PfadAlsUtf8(const fs::path& pfad) {
   return text;
 }
 
+fs::path WirklicherPfad(const fs::path& pfad) {
+  std::error_code fehler;
+  fs::path wirklich = fs::weakly_canonical(fs::absolute(pfad, fehler), fehler);
+  return fehler ? pfad : wirklich;
+}
+
 std::string PfadZumZeigen(fs::path pfad) {
   return Bytes(pfad.make_preferred().u8string());
 }

@@ -11,6 +11,8 @@ namespace vesk {
 std::filesystem::path PfadAusUtf8(std::string_view text);
 /// With "/" between directories on every system.
 std::string PfadAlsUtf8(const std::filesystem::path& pfad);
+/// Absolute and without links, as far as the file system answers.
+std::filesystem::path WirklicherPfad(const std::filesystem::path& pfad);
 /// As the system writes it.
 std::string PfadZumZeigen(std::filesystem::path pfad);
 

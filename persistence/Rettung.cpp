@@ -1,10 +1,17 @@
 #include "persistence/Rettung.h"
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
 #include <optional>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "persistence/Dateien.h"
+#include "persistence/Dateigrenzen.h"
+#include "persistence/Neufassung.h"
 #include "persistence/Pfade.h"
 
 namespace vesk {
@@ -13,83 +20,156 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* Endung = ".rettung";
+constexpr std::string_view Endung = ".rettung";
 
-/// ".user.dat.rettung": hidden, and no file dialog for *.dat offers it.
-fs::path Rettungspfad(const fs::path& verzeichnis, const fs::path& datei) {
+/// ".user.dat.rettung", for another file of that name or another program ".user.dat-2.rettung": hidden, and
+/// no file dialog for *.dat offers it.
+fs::path Kopiename(const fs::path& datei, int nummer) {
+  constexpr std::size_t LaengsterName = 200;  // with all that is added it remains a name that can be written
   fs::path name = ".";
-  return verzeichnis / ((name += datei.filename()) += Endung);
+  if (datei.filename().native().size() <= LaengsterName) name += datei.filename();
+  if (nummer > 1) name += "-" + std::to_string(nummer);
+  return name += Endung;
 }
 
-/// The copy begins with the path of its file and a zero byte, which no path holds.
-std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
-  if (pfad.filename().native().front() != '.' || pfad.extension() != Endung) return std::nullopt;
-  if (Dateistand().AndereArbeitenAn(pfad)) return std::nullopt;
-  const Gelesen inhalt = DateiLesen(pfad);
-  const std::size_t ende = inhalt.bytes.find('\0');
-  if (ende == std::string::npos) return std::nullopt;
-  return Rettung::Fund{pfad, PfadAusUtf8(std::string_view(inhalt.bytes).substr(0, ende)),
-                       inhalt.bytes.substr(ende + 1)};
-}
-
-/// Puts away what nobody needs to be asked about.
-bool Hinfaellig(const Rettung::Fund& fund) {
-  std::error_code egal;
-  const Gelesen datei = DateiLesen(fund.datei);
-  if (datei.status != Lesestatus::Gelesen) return false;
-  if (datei.bytes != fund.bytes) {
-    if (Aenderungszeit(fund.pfad) > Aenderungszeit(fund.datei)) return false;
-    if (DateiSchreiben(FreierAltname(fund.datei), fund.bytes)) return true;  // no room now: another time
+/// Each text after its length and a colon.
+std::string Bytes(const fs::path& datei, const Rettung::Inhalt& inhalt) {
+  std::string bytes;
+  for (const std::string& teil :
+       {PfadAlsUtf8(datei), inhalt.user, inhalt.winkel, PfadAlsUtf8(inhalt.winkeldatei)}) {
+    bytes += std::to_string(teil.size()) + ':' + teil;
   }
+  return bytes;
+}
+
+std::optional<std::string> TeilLesen(std::string_view& bytes) {
+  std::size_t laenge = 0;
+  const auto [ende, fehler] = std::from_chars(bytes.data(), bytes.data() + bytes.size(), laenge);
+  bytes.remove_prefix(static_cast<std::size_t>(ende - bytes.data()));
+  if (fehler != std::errc() || !bytes.starts_with(':') || bytes.size() - 1 < laenge) return std::nullopt;
+  std::string teil(bytes.substr(1, laenge));
+  bytes.remove_prefix(1 + laenge);
+  return teil;
+}
+
+std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
+  std::error_code egal;
+  if (pfad.filename().native().front() != '.' || pfad.extension() != Endung) return std::nullopt;
+  if (!fs::is_regular_file(fs::symlink_status(pfad, egal))) return std::nullopt;
+  if (Dateisperre().Nehmen(pfad) == Sperre::Belegt) return std::nullopt;
+  const Gelesen gelesen = DateiLesen(pfad, grenzen::Rettung);
+  std::string_view bytes = gelesen.bytes;
+  std::array<std::string, 4> teile;
+  for (std::string& ziel : teile) {
+    auto teil = TeilLesen(bytes);
+    if (!teil) return std::nullopt;
+    ziel = std::move(*teil);
+  }
+  return Rettung::Fund{pfad, PfadAusUtf8(teile[0]), {teile[1], teile[2], PfadAusUtf8(teile[3])}};
+}
+
+/// Leaves in a find what the user needs to be asked about, and removes one that is nothing else.
+bool Hinfaellig(Rettung::Fund& fund) {
+  const Gelesen datei = DateiLesen(fund.datei, grenzen::UserDatei);
+  if (datei.status != Lesestatus::Gelesen) return false;
+  if (datei.bytes != fund.inhalt.user) {
+    if (Aenderungszeit(fund.pfad) > Aenderungszeit(fund.datei)) return false;
+    // Where there is no room now, another time.
+    if (DateiSchreiben(FreierAltname(fund.datei), fund.inhalt.user, fund.datei)) return true;
+  }
+  fund.inhalt.user.clear();
+  if (!fund.inhalt.winkel.empty()) return false;
+  std::error_code egal;
   fs::remove(fund.pfad, egal);
   return true;
 }
 
-}  // namespace
+enum class Ausgang { Geschrieben, Vergeben, Gescheitert };
 
-void Rettung::Gesichert(std::string bytes) {
-  sicher_ = std::move(bytes);
-  Entfernen();
+/// Writes where nothing stands, or the copy that `sperre` is held of.
+Ausgang Schreiben(const fs::path& pfad, const fs::path& vorbild, const std::string& bytes,
+                  Dateisperre& sperre) try {
+  std::error_code egal;
+  Neufassung neu(pfad, vorbild);
+  // A link that somebody has put there, too, is not what the lock is held of.
+  if (fs::exists(fs::symlink_status(pfad, egal)) && !sperre.Gilt(pfad)) return Ausgang::Vergeben;
+  neu.Schreiben(bytes);
+  neu.Ersetzen();
+  sperre.Uebergehen(neu.Abgeben(), pfad);
+  neu.VerzeichnisSichern();
+  return Ausgang::Geschrieben;
+} catch (const std::system_error& fehler) {
+  const int nummer = fehler.code().value();
+  const bool fremdes = nummer == EEXIST || nummer == EISDIR || nummer == ENODEV;
+  return fremdes ? Ausgang::Vergeben : Ausgang::Gescheitert;
 }
 
-void Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, const std::string& bytes) {
-  if (bytes == sicher_) {
-    Entfernen();
-    return;
+}  // namespace
+
+bool Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, const Inhalt& inhalt) {
+  if (inhalt.user == sicher_ && inhalt.winkel.empty()) {
+    Aufgeben();
+    return true;
   }
-  const fs::path pfad = Rettungspfad(verzeichnis, datei);
-  if (pfad == pfad_ && bytes == zuletzt_) return;
-  if (pfad != pfad_) Entfernen();
-  if (stand_.AndereArbeitenAn(pfad)) return;
-  // A copy that cannot be written is no reason to disturb: saving itself tells.
-  const std::string inhalt = PfadAlsUtf8(datei) + '\0' + bytes;
-  if (stand_.Schreiben(pfad, inhalt, true).ausgang != Dateistand::Ausgang::Geschrieben) return;
-  pfad_ = pfad;
-  zuletzt_ = bytes;
+  const fs::path wirklich = datei.empty() ? fs::path() : WirklicherPfad(datei);
+  const bool dieselbe = !pfad_.empty() && wirklich == datei_;
+  if (dieselbe && inhalt == zuletzt_) return true;
+  const std::string bytes = Bytes(wirklich, inhalt);
+  const bool erneuert = dieselbe && Schreiben(pfad_, datei_, bytes, sperre_) == Ausgang::Geschrieben;
+  // One that cannot be written is no reason to disturb: saving itself tells.
+  if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return false;
+  zuletzt_ = inhalt;
+  return true;
+}
+
+/// The former copy goes when another one stands.
+bool Rettung::Anlegen(const fs::path& verzeichnis, const fs::path& datei, const std::string& bytes) {
+  constexpr int MeisteProgramme = 99;
+  for (int nummer = 1; nummer <= MeisteProgramme; ++nummer) {
+    Dateisperre sperre;
+    const fs::path pfad = verzeichnis / Kopiename(datei, nummer);
+    const Ausgang ausgang = Schreiben(pfad, datei, bytes, sperre);
+    if (ausgang == Ausgang::Vergeben) continue;
+    if (ausgang == Ausgang::Gescheitert) break;
+    Aufgeben();
+    pfad_ = pfad;
+    datei_ = datei;
+    sperre_ = std::move(sperre);
+    return true;
+  }
+  return false;
 }
 
 void Rettung::Fortsetzen(const Fund& fund) {
-  stand_.Lesen(fund.pfad);
+  sperre_.Nehmen(fund.pfad);
   pfad_ = fund.pfad;
-  zuletzt_ = fund.bytes;
+  datei_ = fund.datei;
+  zuletzt_ = {};
 }
 
-void Rettung::Entfernen() {
-  if (pfad_.empty()) return;
+void Rettung::Aufgeben() {
   std::error_code egal;
-  fs::remove(pfad_, egal);
+  if (!pfad_.empty() && sperre_.Gilt(pfad_)) fs::remove(pfad_, egal);
   pfad_.clear();
-  zuletzt_.clear();
-  stand_ = Dateistand();
+  sperre_ = Dateisperre();
 }
 
 std::vector<Rettung::Fund> Rettung::Suchen(const fs::path& verzeichnis) {
+  std::vector<fs::path> pfade;
+  std::error_code fehler;
+  fs::directory_iterator eintrag(verzeichnis, fehler);
+  // What cannot be listed now comes another time.
+  for (; !fehler && eintrag != fs::directory_iterator(); eintrag.increment(fehler)) {
+    pfade.push_back(eintrag->path());
+  }
   std::vector<Fund> funde;
-  std::error_code egal;
-  for (const fs::directory_entry& eintrag : fs::directory_iterator(verzeichnis, egal)) {
-    std::optional<Fund> fund = Lesen(eintrag.path());
+  for (const fs::path& pfad : pfade) {
+    std::optional<Fund> fund = Lesen(pfad);
     if (fund && !Hinfaellig(*fund)) funde.push_back(std::move(*fund));
   }
+  std::stable_sort(funde.begin(), funde.end(), [](const Fund& a, const Fund& b) {
+    return Aenderungszeit(a.pfad) > Aenderungszeit(b.pfad);
+  });
   return funde;
 }
 

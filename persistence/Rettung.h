@@ -3,39 +3,51 @@
 #include <string>
 #include <vector>
 
-#include "persistence/Dateistand.h"
+#include "persistence/Dateisystem.h"
 
 namespace vesk {
 
-/// What is typed but not saved yet, kept beside the user's files for the case that the program or the machine
-/// dies. The copy goes when its content is safe; one that remains was left by a crash.
+/// What is typed but not saved yet, kept in the program directory for the case that the program or the
+/// machine dies. The copy goes when its content is safe; one that remains was left by a crash. Each running
+/// program has one of its own, locked as long as it runs.
 class Rettung {
  public:
+  struct Inhalt {
+    std::string user;      ///< bytes of the user's file
+    std::string winkel{};  ///< bytes of an angle file; empty: that table is saved
+    std::filesystem::path winkeldatei{};
+    bool operator==(const Inhalt&) const = default;
+  };
   struct Fund {
     std::filesystem::path pfad;
     std::filesystem::path datei;  ///< the user's file; empty: a new callsign without a file
-    std::string bytes;
+    Inhalt inhalt;                ///< `user` is empty when the file says the same or has a later state
   };
 
-  /// `bytes` is what stands safely in the file, or what nobody will miss.
-  void Gesichert(std::string bytes);
-  /// Keeps `bytes` for the user's file `datei` when they differ from what is safe.
-  void Sichern(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei,
-               const std::string& bytes);
-  /// What was found is worked on again; its copy stays until it is safe.
+  /// `user` is what stands safely in the file, or what nobody will miss.
+  void Gesichert(std::string user) { sicher_ = std::move(user); }
+  /// Keeps for the user's file `datei` what is not safe; when all is, no copy is needed. False: it could not
+  /// be written.
+  bool Sichern(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei,
+               const Inhalt& inhalt);
+  /// What was found is worked on again; its copy stays until it is safe or has been renewed.
   void Fortsetzen(const Fund& fund);
+  /// Nobody will miss anything.
+  void Aufgeben();
 
-  /// Copies in `verzeichnis` that no running program holds and that are newer than their files. One that says
-  /// what its file says goes; one that a later saving has overtaken is put beside the file as "…-alt.dat".
+  /// Copies in `verzeichnis` that no running program holds and whose files do not say the same, the newest
+  /// first. Where a later saving has overtaken one, its user's data are put beside the file as "…-alt.dat".
   static std::vector<Fund> Suchen(const std::filesystem::path& verzeichnis);
 
  private:
-  void Entfernen();
+  bool Anlegen(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei,
+               const std::string& bytes);
 
   std::string sicher_;
-  std::string zuletzt_;
+  std::filesystem::path datei_;  ///< of the copy
+  Inhalt zuletzt_;
   std::filesystem::path pfad_;
-  Dateistand stand_;
+  Dateisperre sperre_;
 };
 
 }  // namespace vesk

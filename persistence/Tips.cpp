@@ -1,14 +1,16 @@
 #include "persistence/Tips.h"
 
+#include "persistence/Dateien.h"
+#include "persistence/Dateigrenzen.h"
+#include "persistence/Pfade.h"
 #include "station/Text.h"
 
 namespace vesk {
 
 std::vector<std::string> TipsLesen(std::string_view datei) {
   constexpr std::string_view Leerraum = " \t\r";
-  constexpr std::string_view Utf8Marke = "\xEF\xBB\xBF";
   const bool utf8 = IstUtf8(datei);
-  if (datei.starts_with(Utf8Marke)) datei.remove_prefix(Utf8Marke.size());
+  datei = OhneMarke(datei);
 
   std::vector<std::string> tips;
   while (!datei.empty()) {
@@ -18,9 +20,15 @@ std::vector<std::string> TipsLesen(std::string_view datei) {
     const std::size_t anfang = zeile.find_first_not_of(Leerraum);
     if (anfang == std::string_view::npos) continue;
     zeile = zeile.substr(anfang, zeile.find_last_not_of(Leerraum) - anfang + 1);
-    tips.push_back(utf8 ? std::string(zeile) : NachUtf8(zeile));
+    tips.push_back(Anfang(utf8 ? std::string(zeile) : NachUtf8(zeile), grenzen::Tip));
   }
   return tips;
+}
+
+std::vector<std::string> TipsLaden(const std::filesystem::path& pfad) {
+  const Gelesen datei = DateiLesen(pfad, grenzen::Tips);
+  if (datei.status != Lesestatus::Fehler) return TipsLesen(datei.bytes);
+  return {*WarumOhneInhalt(PfadAlsUtf8(pfad.filename()), datei)};
 }
 
 }  // namespace vesk

@@ -9,6 +9,7 @@
 #include "engine/Laufzeitfehler.h"
 #include "engine/Version.h"
 #include "engine/Zahlen.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Itemleser.h"
 #include "persistence/Itemschreiber.h"
 #include "station/Datenblatt.h"
@@ -291,8 +292,8 @@ std::string Migrationsmeldung(const Lesebericht& bericht, std::string_view datei
   const std::string f(datei);
   const std::string stamm = punkt == std::string_view::npos ? std::string() : f.substr(0, punkt);
   const std::string leer = bericht.version == Dateiversion::ZuAlt ? "Eine leere Datei: " : "";
-  return "Daten aus Programmversion " + bericht.versionstext + ".\r" + f + " wird umbenannt in " + stamm +
-         ".bak\r" + leer + f + " wird neu erstellt.";
+  return "Daten aus Programmversion " + Anfang(bericht.versionstext, grenzen::Meldungswort) + ".\r" + f +
+         " wird umbenannt in " + stamm + ".bak\r" + leer + f + " wird neu erstellt.";
 }
 
 }  // namespace vesk

@@ -3,9 +3,10 @@
 #include <system_error>
 
 #include "persistence/Dateien.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Pfade.h"
-#include "persistence/Winkeldatei.h"
 #include "station/Optionen.h"
+#include "station/Text.h"
 #include "station/Winkel.h"
 
 namespace vesk {
@@ -38,10 +39,18 @@ void DateiNennen(Winkelseite& seite, const fs::path& pfad, bool vorhanden) {
   seite.bearbeitet = false;
 }
 
+Fehlergrund TabelleSchreiben(const Station& station, const fs::path& pfad) {
+  const Winkeldaten daten = WinkeldatenDerSeite(station);
+  const std::string fremd = OhneWindows1252(daten.antenne);
+  if (!fremd.empty()) {
+    return "Eine Winkeldatei kann diese Zeichen im Namen der Antenne nicht aufnehmen: " +
+           Anfang(fremd, grenzen::Meldungswort);
+  }
+  return DateiSchreiben(pfad, WinkelSchreiben(daten));
+}
+
 void Schreiben(Station& station, Rueckfragen& rueckfragen, const fs::path& pfad) {
-  const Winkelseite& seite = station.winkel;
-  const Winkeldaten daten{seite.antenne, seite.gewinn, seite.frequenz, station.Datenblattspalten[0].Winkel};
-  if (const Fehlergrund grund = DateiSchreiben(pfad, WinkelSchreiben(daten))) {
+  if (const Fehlergrund grund = TabelleSchreiben(station, pfad)) {
     FehlerSagen(rueckfragen, pfad, "gespeichert", *grund);
   } else {
     DateiNennen(station.winkel, pfad, true);
@@ -54,14 +63,26 @@ bool Verwerfbar(const Station& station, Rueckfragen& rueckfragen) {
 }
 
 void Lesen(Station& station, Rueckfragen& rueckfragen, const fs::path& pfad) {
-  const Gelesen datei = DateiLesen(pfad);
+  const Gelesen datei = DateiLesen(pfad, grenzen::Winkel);
   if (datei.status == Lesestatus::Fehler) {
     FehlerSagen(rueckfragen, pfad, "gelesen", datei.grund);
     return;
   }
-  const GeleseneWinkeldaten daten = WinkelLesen(datei.bytes);
+  WinkelZeigen(station, WinkelLesen(datei.bytes));
+  const std::string fremd = IstUtf8(datei.bytes) ? OhneWindows1252(OhneMarke(datei.bytes)) : "";
+  // Where characters of the file are missing here, saving asks before it replaces the file.
+  DateiNennen(station.winkel, pfad, datei.status == Lesestatus::Gelesen && fremd.empty());
+  if (fremd.empty()) return;
+  rueckfragen.Fragen({TitelLaden, "Die Datei " + PfadAlsUtf8(pfad.filename()) +
+                                      " enthält Zeichen, die eine Winkeldatei nicht aufnehmen kann. Hier "
+                                      "steht statt ihrer ein Fragezeichen: " +
+                                      Anfang(fremd, grenzen::Meldungswort)});
+}
+
+}  // namespace
+
+void WinkelZeigen(Station& station, const GeleseneWinkeldaten& daten) {
   WinkelErsetzen(station, daten.daempfung);
-  DateiNennen(station.winkel, pfad, datei.status == Lesestatus::Gelesen);
   if (daten.antenne) station.winkel.antenne = *daten.antenne;
   if (daten.gewinn) station.winkel.gewinn = *daten.gewinn;
   if (daten.frequenz) {
@@ -70,15 +91,14 @@ void Lesen(Station& station, Rueckfragen& rueckfragen, const fs::path& pfad) {
   WinkelInSpalte(station);
 }
 
-}  // namespace
-
 void WinkelOeffnen(Station& station, Rueckfragen& rueckfragen) {
   if (!Verwerfbar(station, rueckfragen)) return;
   if (const auto pfad = rueckfragen.ZumOeffnen(Wahl(station, TitelLaden))) Lesen(station, rueckfragen, *pfad);
 }
 
 bool WinkelOeffnen(Station& station, Rueckfragen& rueckfragen, const fs::path& pfad) {
-  if (const Fehlergrund grund = WarumOhneInhalt(PfadAlsUtf8(pfad.filename()), DateiLesen(pfad))) {
+  if (const Fehlergrund grund =
+          WarumOhneInhalt(PfadAlsUtf8(pfad.filename()), DateiLesen(pfad, grenzen::Winkel))) {
     rueckfragen.Fragen(Fehlermeldung(*grund));
     return false;
   }

@@ -1,5 +1,6 @@
 #pragma once
 #include "persistence/Rueckfragen.h"
+#include "persistence/Winkeldatei.h"
 #include "station/Station.h"
 
 /// The files of the angle page.
@@ -13,5 +14,8 @@ bool WinkelOeffnen(Station& station, Rueckfragen& rueckfragen, const std::filesy
 /// Without a name it asks for one, and before it overwrites a file that does not hold this table.
 void WinkelSpeichern(Station& station, Rueckfragen& rueckfragen);
 void WinkelSpeichernUnter(Station& station, Rueckfragen& rueckfragen);
+
+/// What a file holds takes the place of the present table.
+void WinkelZeigen(Station& station, const GeleseneWinkeldaten& daten);
 
 }  // namespace vesk

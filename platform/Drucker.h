@@ -3,6 +3,8 @@
 #include <QString>
 #include <functional>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "engine/Hinweise.h"
@@ -23,9 +25,16 @@ struct Druckauftrag {
   std::function<void(std::size_t seite, QPainter& maler, double jeMillimeter)> malen;
 };
 
-enum class Druckausgang { Gedruckt, Abgebrochen, KeinDrucker, Gescheitert };
+struct Druckausgang {
+  enum Art { Gedruckt, Abgebrochen, KeinDrucker, Gescheitert };
+
+  Druckausgang(Art wie, std::string warum = {}) : art(wie), grund(std::move(warum)) {}
+
+  Art art;
+  std::string grund;  ///< of `Gescheitert`: a sentence that names the printer or the file
+};
 /// What the user has to be told of it.
-std::optional<Hinweis> Druckmeldung(Druckausgang ausgang);
+std::optional<Hinweis> Druckmeldung(const Druckausgang& ausgang);
 
 /// Paper. The printer and its settings are chosen by the user and stay until the program ends.
 class Drucker {

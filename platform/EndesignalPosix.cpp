@@ -1,6 +1,7 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+#include <QGuiApplication>
 #include <QSocketNotifier>
 #include <csignal>
 
@@ -29,6 +30,9 @@ Endesignal::Endesignal(QObject* eltern) : QObject(eltern) {
 }
 
 void Endesignal::Lauschen() {
+  qGuiApp->installEventFilter(this);
+  connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Endesignal::angekuendigt,
+          Qt::DirectConnection);
   if (kanal_ < 0) return;
   auto* melder = new QSocketNotifier(kanal_, QSocketNotifier::Read, this);
   connect(melder, &QSocketNotifier::activated, this, [this] {

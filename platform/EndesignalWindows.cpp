@@ -7,6 +7,7 @@ namespace vesk {
 Endesignal::Endesignal(QObject* eltern) : QObject(eltern) {}
 
 void Endesignal::Lauschen() {
+  qGuiApp->installEventFilter(this);
   // Windows waits only until this returns.
   connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Endesignal::verlangt, Qt::DirectConnection);
 }

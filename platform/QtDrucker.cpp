@@ -2,12 +2,15 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QTextDocument>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,10 +26,30 @@ std::pair<std::size_t, std::size_t> Bereich(const QPrinter& drucker, std::size_t
   return {static_cast<std::size_t>(von - 1), static_cast<std::size_t>(bis - 1)};
 }
 
+/// The toolkit writes PDF into a file without telling when the disk is full: then the end is missing.
+bool Angekommen(const QPrinter& drucker) {
+  if (drucker.printerState() == QPrinter::Error) return false;
+  if (drucker.outputFileName().isEmpty()) return true;
+  constexpr qint64 Ende = 16;  // bytes; the last line is "%%EOF"
+  QFile datei(drucker.outputFileName());
+  return datei.open(QFile::ReadOnly) && datei.size() > Ende && datei.seek(datei.size() - Ende) &&
+         datei.read(Ende).contains("%%EOF");
+}
+
+Druckausgang Fehlschlag(const QPrinter& drucker) {
+  const QString datei = QDir::toNativeSeparators(drucker.outputFileName());
+  const QString grund =
+      datei.isEmpty()
+          ? u"Der Drucker „%1“ hat den Auftrag nicht angenommen."_s.arg(drucker.printerName())
+          : u"Die Datei %1 konnte nicht geschrieben werden. Fehlt dort der Platz oder die Berechtigung?"_s
+                .arg(datei);
+  return {Druckausgang::Gescheitert, grund.toStdString()};
+}
+
 }  // namespace
 
-std::optional<Hinweis> Druckmeldung(Druckausgang ausgang) {
-  switch (ausgang) {
+std::optional<Hinweis> Druckmeldung(const Druckausgang& ausgang) {
+  switch (ausgang.art) {
     case Druckausgang::KeinDrucker:
       return MitHilfe(
           {"Drucken",
@@ -34,7 +57,7 @@ std::optional<Hinweis> Druckmeldung(Druckausgang ausgang) {
            "einem anderen Rechner, oder richten Sie in den Einstellungen Ihres Systems einen Drucker ein."},
           HilfePapiere);
     case Druckausgang::Gescheitert:
-      return MitHilfe({"Drucken", "Der Drucker hat den Auftrag nicht angenommen.\nGedruckt ist nichts."},
+      return MitHilfe({"Drucken", ausgang.grund + "\nEs ist nichts oder nicht alles gedruckt."},
                       HilfePapiere);
     case Druckausgang::Gedruckt:
     case Druckausgang::Abgebrochen:
@@ -43,17 +66,12 @@ std::optional<Hinweis> Druckmeldung(Druckausgang ausgang) {
   return std::nullopt;
 }
 
-QtDrucker::QtDrucker() = default;
+QtDrucker::QtDrucker(Druckerdialog dialog) : dialog_(std::move(dialog)) {}
 QtDrucker::~QtDrucker() = default;
 
-Druckausgang QtDrucker::Waehlen(const QString& titel, const QString& knopf, int seiten) {
+Druckausgang DruckerErfragen(QPrinter& drucker, const QString& titel, const QString& knopf, int seiten) {
   if (QPrinterInfo::availablePrinterNames().isEmpty()) return Druckausgang::KeinDrucker;
-  if (!drucker_) drucker_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  drucker_->setPageSize(QPageSize(QPageSize::A4));
-  // Pages chosen last time were those of other papers.
-  drucker_->setPrintRange(QPrinter::AllPages);
-  drucker_->setFromTo(0, 0);
-  QPrintDialog dialog(drucker_.get(), QApplication::activeWindow());
+  QPrintDialog dialog(&drucker, QApplication::activeWindow());
   dialog.setWindowTitle(titel);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, seiten > 1);
   if (seiten > 1) dialog.setMinMax(1, seiten);
@@ -63,19 +81,28 @@ Druckausgang QtDrucker::Waehlen(const QString& titel, const QString& knopf, int 
   return dialog.exec() == QDialog::Accepted ? Druckausgang::Gedruckt : Druckausgang::Abgebrochen;
 }
 
+Druckausgang QtDrucker::Waehlen(const QString& titel, const QString& knopf, int seiten) {
+  if (!drucker_) drucker_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  drucker_->setPageSize(QPageSize(QPageSize::A4));
+  // Pages chosen last time were those of other papers.
+  drucker_->setPrintRange(QPrinter::AllPages);
+  drucker_->setFromTo(0, 0);
+  return dialog_(*drucker_, titel, knopf, seiten);
+}
+
 Druckausgang QtDrucker::Einrichten() {
   return Waehlen(u"Drucker einrichten"_s, u"Übernehmen"_s, 1);
 }
 
 Druckausgang QtDrucker::Drucken(const Druckauftrag& auftrag, const Fortschritt& fortschritt) {
-  const Druckausgang wahl = Waehlen(u"Drucken"_s, u"Drucken"_s, static_cast<int>(auftrag.seiten.size()));
-  if (wahl != Druckausgang::Gedruckt) return wahl;
+  Druckausgang wahl = Waehlen(u"Drucken"_s, u"Drucken"_s, static_cast<int>(auftrag.seiten.size()));
+  if (wahl.art != Druckausgang::Gedruckt) return wahl;
   drucker_->setDocName(auftrag.titel);
   drucker_->setFullPage(true);
   const auto [erste, letzte] = Bereich(*drucker_, auftrag.seiten.size());
   drucker_->setPageOrientation(auftrag.seiten.at(erste));
   QPainter maler;
-  if (!maler.begin(drucker_.get())) return Druckausgang::Gescheitert;
+  if (!maler.begin(drucker_.get())) return Fehlschlag(*drucker_);
   for (std::size_t seite = erste; seite <= letzte; ++seite) {
     if (!fortschritt(seite - erste, letzte - erste + 1)) {
       drucker_->abort();
@@ -83,21 +110,20 @@ Druckausgang QtDrucker::Drucken(const Druckauftrag& auftrag, const Fortschritt& 
     }
     if (seite != erste) {
       drucker_->setPageOrientation(auftrag.seiten.at(seite));
-      if (!drucker_->newPage()) return Druckausgang::Gescheitert;
+      if (!drucker_->newPage()) return Fehlschlag(*drucker_);
     }
     auftrag.malen(seite, maler, drucker_->resolution() / 25.4);
   }
-  const bool gut = maler.end() && drucker_->printerState() != QPrinter::Error;
-  return gut ? Druckausgang::Gedruckt : Druckausgang::Gescheitert;
+  return maler.end() && Angekommen(*drucker_) ? Druckausgang::Gedruckt : Fehlschlag(*drucker_);
 }
 
 Druckausgang QtDrucker::TextDrucken(const QTextDocument& dokument, const QString& titel) {
-  const Druckausgang wahl = Waehlen(u"Drucken"_s, u"Drucken"_s, 1);
-  if (wahl != Druckausgang::Gedruckt) return wahl;
+  Druckausgang wahl = Waehlen(u"Drucken"_s, u"Drucken"_s, 1);
+  if (wahl.art != Druckausgang::Gedruckt) return wahl;
   drucker_->setDocName(titel);
   drucker_->setPageOrientation(QPageLayout::Portrait);
   dokument.print(drucker_.get());
-  return drucker_->printerState() == QPrinter::Error ? Druckausgang::Gescheitert : Druckausgang::Gedruckt;
+  return Angekommen(*drucker_) ? Druckausgang::Gedruckt : Fehlschlag(*drucker_);
 }
 
 }  // namespace vesk

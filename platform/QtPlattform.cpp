@@ -4,16 +4,21 @@
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSettings>
+#include <QTimer>
 #include <QUrl>
 #include <algorithm>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -36,7 +41,7 @@ QWidget* Vordergrund() {
 /// release answers nothing. A question can only be left by a button, neither by Escape nor by the frame.
 class StrengeBox : public QMessageBox {
  public:
-  StrengeBox(bool frage, const Tastenuhr& uhr) : QMessageBox(Vordergrund()), frage_(frage), uhr_(uhr) {}
+  StrengeBox(bool frage, const Tastenuhr& uhr, QWidget* vor) : QMessageBox(vor), frage_(frage), uhr_(uhr) {}
 
   void Fragen() {
     const QList<QWidget*> kinder = findChildren<QWidget*>();
@@ -82,6 +87,27 @@ std::optional<QString> Ausfuehren(QFileDialog* dialog) {
   return wahl;
 }
 
+QByteArray Inhalt(const QString& datei) {
+  QFile quelle(datei);
+  return quelle.open(QFile::ReadOnly) ? quelle.readAll() : QByteArray();
+}
+
+bool Abgeschrieben(const QString& von, const QString& nach) {
+  QFile::remove(nach);
+  if (QFile::copy(von, nach) && Inhalt(nach) == Inhalt(von)) return true;
+  QFile::remove(nach);
+  return false;
+}
+
+/// A line for each value, down to the end of the last one.
+bool Vollstaendig(const QString& datei, qsizetype werte) {
+  const QByteArray inhalt = Inhalt(datei);
+  const QList<QByteArray> zeilen = inhalt.split('\n');
+  const auto anzahl =
+      std::count_if(zeilen.begin(), zeilen.end(), [](const auto& z) { return z.contains('='); });
+  return inhalt.endsWith('\n') && anzahl >= werte;
+}
+
 }  // namespace
 
 bool Tastenuhr::Wiederholt(const QKeyEvent& druck) const {
@@ -98,13 +124,36 @@ bool Tastenuhr::eventFilter(QObject*, QEvent* ereignis) {
   return false;
 }
 
+bool DialogeAbbrechen() {
+  bool offen = false;
+  for (QWidget* fenster : QApplication::topLevelWidgets()) {
+    auto* dialog = qobject_cast<QDialog*>(fenster);
+    if (dialog == nullptr || !dialog->isVisible() || !dialog->isModal()) continue;
+    offen = true;
+    if (auto* anzeige = qobject_cast<QProgressDialog*>(dialog)) {
+      anzeige->cancel();
+    } else {
+      dialog->reject();
+    }
+  }
+  return offen;
+}
+
 QtMeldungsboxen::QtMeldungsboxen() {
   qApp->installEventFilter(&uhr_);
 }
 
 Antwort QtMeldungsboxen::Zeigen(const Hinweis& box) {
   const bool frage = box.knoepfe == Knoepfe::JaNein;
-  StrengeBox fenster(frage, uhr_);
+  const QPointer<QWidget> vorher = voriges_ ? voriges_.data() : Vordergrund();
+  const auto zurueck = qScopeGuard([&] {
+    if (!vorher || !vorher->isVisible()) return;
+    vorher->activateWindow();
+    // The window system tells later; until then the next box would take any window for the active one.
+    voriges_ = vorher;
+    QTimer::singleShot(0, vorher, [this] { voriges_.clear(); });
+  });
+  StrengeBox fenster(frage, uhr_, vorher);
   fenster.setProperty(HilfekontextEigenschaft, box.hilfe);
   fenster.setWindowTitle(QString::fromStdString(box.titel));
   fenster.setTextFormat(Qt::PlainText);
@@ -120,6 +169,7 @@ Antwort QtMeldungsboxen::Zeigen(const Hinweis& box) {
   QPushButton* nein = fenster.addButton(QStringLiteral("&Nein"), QMessageBox::NoRole);
   fenster.setDefaultButton(box.vorgabe == Antwort::Nein ? nein : ja);
   fenster.Fragen();
+  if (fenster.clickedButton() == nullptr) return Antwort::Keine;
   return fenster.clickedButton() == ja ? Antwort::Ja : Antwort::Nein;
 }
 
@@ -141,8 +191,21 @@ std::optional<QString> QtBenutzerspeicher::Lesen(const QString& abschnitt, const
   return wert.toString();
 }
 
+/// On a full disk the toolkit puts a file that is cut off in the place of the former one.
 void QtBenutzerspeicher::Schreiben(const QString& abschnitt, const QString& schluessel, const QString& wert) {
-  QSettings().setValue(abschnitt + QLatin1Char('/') + schluessel, wert);
+  QSettings speicher;
+  const QString datei = speicher.fileName();
+  const QString alt = datei + u".alt"_s;
+  const bool vorhanden = QFile::exists(datei);  // on Windows it is no file
+  if (vorhanden && !Abgeschrieben(datei, alt)) return;
+  speicher.setValue(abschnitt + u'/' + schluessel, wert);
+  speicher.sync();
+  if (vorhanden && !Vollstaendig(datei, speicher.allKeys().size())) {
+    std::error_code egal;
+    std::filesystem::rename(alt.toStdString(), datei.toStdString(), egal);
+  } else {
+    QFile::remove(alt);
+  }
 }
 
 bool QtBetrachter::Oeffnen(const QString& datei) {

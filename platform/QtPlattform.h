@@ -1,6 +1,8 @@
 #pragma once
 #include <QHash>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 #include "platform/Plattform.h"
 
@@ -21,13 +23,19 @@ class Tastenuhr : public QObject {
   QHash<int, quint64> losgelassen_;  ///< time stamps by keys
 };
 
+/// Leaves every dialog that stands open as by its button to cancel; a question gets no answer. False: there
+/// was none.
+bool DialogeAbbrechen();
+
 class QtMeldungsboxen : public Meldungsboxen {
  public:
   QtMeldungsboxen();
+  /// Leads back to the window that was active before, also after several boxes in a row.
   Antwort Zeigen(const Hinweis& box) override;
 
  private:
   Tastenuhr uhr_;
+  QPointer<QWidget> voriges_;  ///< where the last box has just led back to, while nobody knows it yet
 };
 
 class QtDateidialoge : public Dateidialoge {

@@ -205,13 +205,15 @@ Baenderbild BaenderbildVon(const Station& s, const std::vector<Bandzeile>& zeile
 
 void BaenderbildMalen(Blatt& blatt, const QRectF& flaeche, const Baenderbild& bild,
                       const Bildfarben& farben) {
-  constexpr double MitGrenzwerten = 75;  // mm
+  constexpr double Bequem = 75;  // mm
   constexpr double Oben = 0.58;
+  if (bild.abstaende.kurven.empty()) return KurvenbildMalen(blatt, flaeche, bild.abstaende, farben);
+  Bildfarben angepasst = farben;
+  angepasst.punkt *= std::min(1.0, flaeche.height() / Bequem);
   QRectF oben = flaeche;
-  const bool beide = flaeche.height() >= MitGrenzwerten && !bild.abstaende.kurven.empty();
-  if (beide) oben.setHeight(flaeche.height() * Oben);
-  KurvenbildMalen(blatt, oben, bild.abstaende, farben);
-  if (beide) KurvenbildMalen(blatt, {oben.bottomLeft(), flaeche.bottomRight()}, bild.grenzwerte, farben);
+  oben.setHeight(flaeche.height() * Oben);
+  KurvenbildMalen(blatt, oben, bild.abstaende, angepasst);
+  KurvenbildMalen(blatt, {oben.bottomLeft(), flaeche.bottomRight()}, bild.grenzwerte, angepasst);
 }
 
 }  // namespace vesk

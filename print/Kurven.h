@@ -13,10 +13,12 @@ Kurvenbild Diagramm(const Station& s, const Kataloge& k, Diagrammart art);
 QString Diagrammname(Diagrammart art);
 
 /// "Alle Bänder": distances, in power mode powers, and below them the limits that they come from. In a low
-/// area the distances stand alone.
+/// area the letters are smaller.
 struct Baenderbild {
   Kurvenbild abstaende;
   Kurvenbild grenzwerte;
+
+  bool operator==(const Baenderbild&) const = default;
 };
 Baenderbild BaenderbildVon(const Station& s, const std::vector<Bandzeile>& zeilen);
 void BaenderbildMalen(Blatt& blatt, const QRectF& flaeche, const Baenderbild& bild,

@@ -20,6 +20,13 @@ constexpr double Luft = 1.5;  // between neighbouring texts
 const std::array<QList<qreal>, AnzahlKurvenstile> Strichmuster = {
     {{}, {7, 3}, {1.5, 2}, {7, 2.5, 1.5, 2.5}, {14, 4}}};
 
+/// The name of a mark in its place above the chart.
+struct Markenname {
+  const Bildmarke* marke;
+  double links;
+  std::size_t zeile;  ///< from the chart upwards
+};
+
 class Zeichnung {
  public:
   Zeichnung(Blatt& blatt, const Kurvenbild& bild, const Bildfarben& farben)
@@ -28,14 +35,13 @@ class Zeichnung {
 
  private:
   double Zeile() const { return Zeilenhoehe(klein_); }
-  /// Lines for the names of the marks.
-  std::size_t Namenszeilen() const { return std::min<std::size_t>(bild_.marken.size(), 3); }
   void Kopf(QRectF& platz);
   void Legende(QRectF& platz);
-  void Markennamen(QRectF& platz) const;
+  std::vector<Markenname> Markennamen(const Achsenskala& x) const;
+  Schrift Markenschrift(const Bildmarke& marke) const;
   void Gitter(const Achsenskala& x, const Achsenskala& y);
   void Achsenzahlen(const Achsenskala& x, const Achsenskala& y);
-  void Marken(const Achsenskala& x, const QRectF& feld);
+  void Marken(const std::vector<Markenname>& namen, const Achsenskala& x, const QRectF& feld);
   void Kurve(const Bildkurve& kurve, const Achsenskala& x, const Achsenskala& y);
   void Punktmarke(QPointF ort, std::size_t stil, bool voll);
   QPen Stift(std::size_t stil) const;
@@ -63,15 +69,20 @@ void Zeichnung::Zeichnen(const QRectF& flaeche) {
     return;
   }
   Legende(platz);
-  Markennamen(platz);
   const Bildachse bereich = Wertebereich(bild_);
   platz.adjust(0, 0, -Luft, -2 * Zeile() - 1.5 * Luft);
-  Achsenskala y{bereich.von, bereich.bis, platz.bottom(), -platz.height()};
+  Achsenskala y{bereich.von, bereich.bis, platz.bottom(), 0};
   platz.setLeft(platz.left() + Zahlenbreite(y) + Luft);
   const Achsenskala x{bild_.x.von, bild_.x.bis, platz.left(), platz.width()};
+  const std::vector<Markenname> namen = Markennamen(x);
+  // A chart that follows the input shall not jump at once.
+  std::size_t zeilen = std::min<std::size_t>(bild_.marken.size(), 3);
+  for (const Markenname& name : namen) zeilen = std::max(zeilen, name.zeile + 1);
+  platz.setTop(platz.top() + static_cast<double>(zeilen) * Zeile() + Luft);
+  y.laenge = -platz.height();
   if (platz.height() < Zeile() || platz.width() < Zeile()) return;
   Gitter(x, y);
-  Marken(x, platz);
+  Marken(namen, x, platz);
   Achsenzahlen(x, y);
   for (const Bildkurve& kurve : bild_.kurven) Kurve(kurve, x, y);
 }
@@ -115,9 +126,28 @@ void Zeichnung::Legende(QRectF& platz) {
   platz.setTop(grund + Zeile() / 2);
 }
 
-/// Leaves room for the names above the chart.
-void Zeichnung::Markennamen(QRectF& platz) const {
-  platz.setTop(platz.top() + static_cast<double>(Namenszeilen()) * Zeile() + Luft);
+Schrift Zeichnung::Markenschrift(const Bildmarke& marke) const {
+  Schrift schrift = klein_;
+  schrift.fett = marke.betont;
+  return schrift;
+}
+
+/// Names stand in the first of the lines above the chart that has room.
+std::vector<Markenname> Zeichnung::Markennamen(const Achsenskala& x) const {
+  constexpr std::size_t Hoechstens = 8;  // lines; a name that finds no room in them is left out
+  std::array<double, Hoechstens> frei{};
+  frei.fill(x.anfang - Zeile());
+  std::vector<Markenname> namen;
+  for (const Bildmarke& marke : bild_.marken) {
+    if (marke.x < x.von || marke.x > x.bis) continue;
+    const double breite = Textbreite(marke.name, Markenschrift(marke));
+    const double links = std::min(x.Ort(marke.x) - breite / 2, x.anfang + x.laenge + Luft - breite);
+    const auto* zeile = std::find_if(frei.begin(), frei.end(), [&](double ende) { return ende <= links; });
+    if (zeile == frei.end()) continue;
+    namen.push_back({&marke, links, static_cast<std::size_t>(zeile - frei.begin())});
+    frei.at(namen.back().zeile) = links + breite + Luft / 2;
+  }
+  return namen;
 }
 
 double Zeichnung::Zahlenbreite(const Achsenskala& skala) const {
@@ -175,23 +205,15 @@ void Zeichnung::Achsenzahlen(const Achsenskala& x, const Achsenskala& y) {
   }
 }
 
-/// Names stand in the first of the lines above the chart that has room; one without room is left out.
-void Zeichnung::Marken(const Achsenskala& x, const QRectF& feld) {
-  std::vector<double> frei(Namenszeilen(), feld.left() - Zeile());
+void Zeichnung::Marken(const std::vector<Markenname>& namen, const Achsenskala& x, const QRectF& feld) {
   for (const Bildmarke& marke : bild_.marken) {
     if (marke.x < x.von || marke.x > x.bis) continue;
     const double ort = x.Ort(marke.x);
     blatt_.Linie({ort, feld.bottom()}, {ort, feld.top()}, marke.betont ? 0.35 : 0.15, farben_.schrift);
-    Schrift schrift = klein_;
-    schrift.fett = marke.betont;
-    const double breite = Textbreite(marke.name, schrift);
-    const double links = std::min(ort - breite / 2, feld.right() + Luft - breite);
-    for (std::size_t i = 0; i < frei.size(); ++i) {
-      if (links < frei.at(i)) continue;
-      blatt_.Text({links, feld.top() - Luft / 2 - static_cast<double>(i) * Zeile()}, marke.name, schrift);
-      frei.at(i) = links + breite + Luft / 2;
-      break;
-    }
+  }
+  for (const Markenname& name : namen) {
+    const double grund = feld.top() - Luft / 2 - static_cast<double>(name.zeile) * Zeile();
+    blatt_.Text({name.links, grund}, name.marke->name, Markenschrift(*name.marke));
   }
 }
 

@@ -17,6 +17,8 @@ struct Bildpunkt {
   double x = 0;
   double y = 0;
   bool voll = false;  ///< a filled mark: where the station is
+
+  bool operator==(const Bildpunkt&) const = default;
 };
 
 struct Bildkurve {
@@ -24,6 +26,8 @@ struct Bildkurve {
   std::size_t stil = 0;
   Kurve linie;
   std::vector<Bildpunkt> punkte;
+
+  bool operator==(const Bildkurve&) const = default;
 };
 
 /// A frequency or power that matters, as a line through the whole chart.
@@ -31,6 +35,8 @@ struct Bildmarke {
   double x = 0;
   QString name;
   bool betont = false;
+
+  bool operator==(const Bildmarke&) const = default;
 };
 
 /// `von` < `bis`, both greater than 0.
@@ -38,6 +44,8 @@ struct Bildachse {
   QString titel;  ///< with its unit
   double von = 1;
   double bis = 10;
+
+  bool operator==(const Bildachse&) const = default;
 };
 
 struct Kurvenbild {
@@ -48,6 +56,8 @@ struct Kurvenbild {
   std::vector<Bildkurve> kurven;
   std::vector<Bildmarke> marken;
   QString leer;  ///< stands in the place of a chart without curves
+
+  bool operator==(const Kurvenbild&) const = default;
 };
 
 struct Bildfarben {

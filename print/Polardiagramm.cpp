@@ -15,8 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Sektorgrad = 10;
-constexpr QColor Gitterfarbe(0xB0, 0xB0, 0xB0);
-constexpr QColor Papiergitter(0x80, 0x80, 0x80);  // lighter lines break up into dots in print
 
 /// Rings of the scale, `anzahl` of them `schritt` units apart.
 struct Ringe {
@@ -35,7 +33,7 @@ Ringe RingeBis(double hoechster) {
 
 class Zeichnung {
  public:
-  Zeichnung(QPainter& maler, const QRectF& flaeche, const Polardaten& daten);
+  Zeichnung(QPainter& maler, const QRectF& flaeche, const Polardaten& daten, const Bildfarben& farben);
   void Zeichnen();
 
  private:
@@ -51,13 +49,13 @@ class Zeichnung {
   void Legende(QRectF platz);
   void Balken(QPointF mitte);
   /// Thinnest line of the device on a screen, where paper would lose it.
-  QPen Gitterstift() const {
-    return daten_.massstab ? QPen(Papiergitter, zeile_ / 30) : QPen(Gitterfarbe, 0);
-  }
+  QPen Gitterstift() const { return QPen(farben_.gitter, daten_.massstab ? zeile_ / 30 : 0); }
+  QPen Kurvenstift(const Polarkurve& kurve) const;
 
   QPainter& maler_;
   const QRectF flaeche_;
   const Polardaten& daten_;
+  const Bildfarben& farben_;
   const double zeile_;  ///< height of a text line
   Ringe ringe_;
   double randwert_ = 1;  ///< what the rim stands for
@@ -65,8 +63,13 @@ class Zeichnung {
   double radius_ = 0;
 };
 
-Zeichnung::Zeichnung(QPainter& maler, const QRectF& flaeche, const Polardaten& daten)
-    : maler_(maler), flaeche_(flaeche), daten_(daten), zeile_(QFontMetricsF(maler.font()).height()) {
+Zeichnung::Zeichnung(QPainter& maler, const QRectF& flaeche, const Polardaten& daten,
+                     const Bildfarben& farben)
+    : maler_(maler),
+      flaeche_(flaeche),
+      daten_(daten),
+      farben_(farben),
+      zeile_(QFontMetricsF(maler.font()).height()) {
   SkalaBestimmen();
   // From top to bottom: title, degrees at the rim, half disc, numbers of the rings, legend.
   const double oben = (daten_.titel.isEmpty() ? 1.6 : 2.8) * zeile_;
@@ -116,8 +119,8 @@ QPointF Zeichnung::Punkt(double grad, double radius) const {
 void Zeichnung::Zeichnen() {
   maler_.save();
   maler_.setRenderHint(QPainter::Antialiasing);
-  maler_.fillRect(flaeche_, Qt::white);
-  maler_.setPen(Qt::black);
+  maler_.fillRect(flaeche_, farben_.grund);
+  maler_.setPen(farben_.schrift);
   if (!daten_.titel.isEmpty()) {
     maler_.drawText(QRectF(flaeche_.left(), flaeche_.top(), flaeche_.width(), 1.2 * zeile_), Qt::AlignCenter,
                     daten_.titel + u" ["_s + daten_.einheit + u']');
@@ -150,7 +153,7 @@ void Zeichnung::Gitter() {
 
 void Zeichnung::Gradzahlen() {
   const int schritt = daten_.massstab ? Sektorgrad : 3 * Sektorgrad;
-  maler_.setPen(Qt::black);
+  maler_.setPen(farben_.schrift);
   for (int grad = -90; grad <= 90; grad += schritt) {
     QPointF ort = Punkt(grad, radius_ + 0.9 * zeile_);
     if (std::abs(grad) == 90) ort.ry() -= 0.5 * zeile_;  // clear of the numbers of the rings
@@ -198,10 +201,19 @@ void Zeichnung::Kurve(const Polarkurve& kurve) {
     }
     verbunden = wert.has_value();
   }
-  QPen stift(kurve.farbe, zeile_ / 8, kurve.strich, Qt::FlatCap, Qt::RoundJoin);
-  maler_.setPen(stift);
+  maler_.setPen(Kurvenstift(kurve));
   maler_.setBrush(Qt::NoBrush);
   maler_.drawPath(pfad);
+}
+
+QPen Zeichnung::Kurvenstift(const Polarkurve& kurve) const {
+  constexpr float Grau = 0.6F;
+  QColor farbe = farben_.kurven.at(kurve.stil);
+  if (kurve.veraltet) {
+    farbe = farben_.schrift;
+    farbe.setAlphaF(Grau);
+  }
+  return QPen(farbe, zeile_ / 8, kurve.strich, Qt::FlatCap, Qt::RoundJoin);
 }
 
 void Zeichnung::Legende(QRectF platz) {
@@ -222,10 +234,10 @@ void Zeichnung::Legende(QRectF platz) {
   double x = platz.center().x() - breite / 2;
   for (const Polarkurve* kurve : kurven) {
     const double y = platz.center().y();
-    maler_.setPen(QPen(kurve->farbe, zeile_ / 8, kurve->strich, Qt::FlatCap));
+    maler_.setPen(Kurvenstift(*kurve));
     maler_.drawLine(QPointF(x, y), QPointF(x + strich, y));
     x += strich + abstand;
-    maler_.setPen(Qt::black);
+    maler_.setPen(farben_.schrift);
     const double text = mass.horizontalAdvance(kurve->name) + abstand;
     maler_.drawText(QRectF(x, platz.top(), text, platz.height()), Qt::AlignLeft | Qt::AlignVCenter,
                     kurve->name);
@@ -238,7 +250,7 @@ void Zeichnung::Balken(QPointF mitte) {
   const int teile = (ringe_.anzahl + 1) / 2;
   const double hoehe = zeile_ / 3;
   const double breite = Radius(ringe_.schritt);
-  maler_.setPen(QPen(Qt::black, zeile_ / 30, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  maler_.setPen(QPen(farben_.schrift, zeile_ / 30, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
   for (int i = 0; i <= teile; ++i) {
     const double x = mitte.x() + (i - teile / 2.0) * breite;
     QString text = QString::number(i * ringe_.schritt);
@@ -248,15 +260,15 @@ void Zeichnung::Balken(QPointF mitte) {
       maler_.drawText(platz, Qt::AlignCenter | Qt::TextDontClip, text);
     }
     if (i == teile) break;
-    maler_.setBrush(i % 2 == 0 ? Qt::black : Qt::white);
+    maler_.setBrush(i % 2 == 0 ? farben_.schrift : farben_.grund);
     maler_.drawRect(QRectF(x, mitte.y(), breite, hoehe));
   }
 }
 
 }  // namespace
 
-void paint(QPainter& maler, const QRectF& flaeche, const Polardaten& daten) {
-  Zeichnung(maler, flaeche, daten).Zeichnen();
+void paint(QPainter& maler, const QRectF& flaeche, const Polardaten& daten, const Bildfarben& farben) {
+  Zeichnung(maler, flaeche, daten, farben).Zeichnen();
 }
 
 }  // namespace vesk::polardiagramm

@@ -1,9 +1,10 @@
 #pragma once
-#include <QColor>
 #include <QString>
 #include <array>
 #include <optional>
 #include <vector>
+
+#include "print/Kurvenbild.h"
 
 class QPainter;
 class QRectF;
@@ -14,10 +15,11 @@ inline constexpr std::size_t PolarSektoren = 9;
 
 /// One quantity over the sectors of 10 degrees, from the main direction to 90 degrees.
 struct Polarkurve {
-  QString name;  ///< of the legend
-  QColor farbe;
+  QString name{};        ///< of the legend
+  std::size_t stil = 0;  ///< its colour
   Qt::PenStyle strich = Qt::SolidLine;
-  std::array<std::optional<double>, PolarSektoren> werte;
+  std::array<std::optional<double>, PolarSektoren> werte{};
+  bool veraltet = false;  ///< of other inputs than those shown: grey
 };
 
 /// What the radius means.
@@ -43,9 +45,9 @@ struct Polardaten {
 
 namespace polardiagramm {
 
-/// Draws the front half, mirrored about the main direction (up), in black and the curves' colours on white,
-/// whatever the theme. The font is the painter's.
-void paint(QPainter& maler, const QRectF& flaeche, const Polardaten& daten);
+/// Draws the front half, mirrored about the main direction (up). The font is the painter's. Without `farben`
+/// black on white.
+void paint(QPainter& maler, const QRectF& flaeche, const Polardaten& daten, const Bildfarben& farben = {});
 
 }  // namespace polardiagramm
 }  // namespace vesk

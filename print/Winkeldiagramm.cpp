@@ -7,6 +7,7 @@
 #include "print/Dokumente.h"
 #include "print/Polardiagramm.h"
 #include "print/Satz.h"
+#include "station/Winkel.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,23 +17,20 @@ namespace {
 
 static_assert(AnzahlSektoren == PolarSektoren);
 
-constexpr double Bildradius = 80;         // mm; 8 m at 1 : 100
-constexpr std::size_t ErsterAbstand = 3;  // column of the table
+constexpr double Bildradius = 80;                // mm; 8 m at 1 : 100
+constexpr QColor Gitterfarbe(0x80, 0x80, 0x80);  // lighter lines break up into dots in print
+constexpr std::size_t ErsterAbstand = 3;         // column of the table
 
 struct Abstandsart {
   QStringView name;
   QStringView titel;
-  std::optional<float> (*wert)(const Sektor&);
 };
 
 /// In the order of Winkelkurve.
 constexpr std::array<Abstandsart, 3> Abstandsarten = {{
-    {u"ohne HSM", u"Sicherheitsabstände ohne HSM",
-     [](const Sektor& sektor) { return std::optional(sektor.ohneHSM); }},
-    {u"HSM 306", u"Sicherheitsabstände mit HSM gemäß VfG 306",
-     [](const Sektor& sektor) { return sektor.HSM306; }},
-    {u"HSM VDE", u"Sicherheitsabstände mit HSM gemäß DIN VDE 0848 Teil 3-1",
-     [](const Sektor& sektor) { return sektor.HSMvde; }},
+    {u"ohne HSM", u"Sicherheitsabstände ohne HSM"},
+    {u"HSM 306", u"Sicherheitsabstände mit HSM gemäß VfG 306"},
+    {u"HSM VDE", u"Sicherheitsabstände mit HSM gemäß DIN VDE 0848 Teil 3-1"},
 }};
 
 struct Tabellenspalte {
@@ -58,9 +56,7 @@ struct Diagrammblatt {
 };
 
 QString Ebenentext(Winkelebene ebene) {
-  if (ebene == Winkelebene::Keine) return {};
-  const QString lage = ebene == Winkelebene::Horizontal ? u"Horizontale"_s : u"Vertikale"_s;
-  return lage + u" Winkeldämpfung von Richtantennen"_s;
+  return ebene == Winkelebene::Keine ? QString() : QString::fromUtf8(Ebenentitel(ebene));
 }
 
 // ------------------------------------------------------------------------------------------------ scale
@@ -109,12 +105,11 @@ std::array<Tabellenspalte, 6> Tabelle(const Winkelblatt& blatt, std::size_t art)
   };
   for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
     const Sektor& sektor = blatt.tabelle.sektoren[i];
-    tabelle[0].texte.at(i) =
-        u"%1 - %2"_s.arg(10 * i, 2, 10, QChar(u'0')).arg(10 * (i + 1), 2, 10, QChar(u'0'));
+    tabelle[0].texte.at(i) = QString::fromStdString(Sektorname(i));
     tabelle[1].texte.at(i) = Kurztext(blatt.daempfung.at(i));
     tabelle[2].texte.at(i) = zahl(sektor.EIRP);
     for (std::size_t a = 0; a < Abstandsarten.size(); ++a) {
-      tabelle.at(ErsterAbstand + a).texte.at(i) = zahl(Abstandsarten.at(a).wert(sektor));
+      tabelle.at(ErsterAbstand + a).texte.at(i) = zahl(Sektorabstand(sektor, Winkelkurve(a)));
     }
   }
   tabelle.at(ErsterAbstand + art).fett = true;
@@ -122,9 +117,9 @@ std::array<Tabellenspalte, 6> Tabelle(const Winkelblatt& blatt, std::size_t art)
 }
 
 Diagrammblatt Inhalte(const Winkelblatt& blatt, std::size_t art, Massstabswunsch gewuenscht) {
-  Polarkurve kurve{{}, Qt::black, Qt::SolidLine, {}};
+  Polarkurve kurve;
   std::transform(blatt.tabelle.sektoren.begin(), blatt.tabelle.sektoren.end(), kurve.werte.begin(),
-                 Abstandsarten.at(art).wert);
+                 [art](const Sektor& sektor) { return Sektorabstand(sektor, Winkelkurve(art)); });
   const double hoechster = std::max_element(kurve.werte.begin(), kurve.werte.end())->value_or(0);
   const bool passt = gewuenscht && Passt(hoechster, *gewuenscht);
   const double massstab = passt ? *gewuenscht : UeblicherMassstab(hoechster);
@@ -260,8 +255,8 @@ void BildMalen(Blatt& blatt, const Diagrammblatt& d, double oben) {
   blatt.Maler().setFont(Papierschrift(Klein));
   polardiagramm::paint(
       blatt.Maler(),
-      {QPointF(satz.left(), oben) * Blatt::Einheit, QSizeF(satz.width(), Bildhoehe) * Blatt::Einheit},
-      d.bild);
+      {QPointF(satz.left(), oben) * Blatt::Einheit, QSizeF(satz.width(), Bildhoehe) * Blatt::Einheit}, d.bild,
+      {.gitter = Gitterfarbe});
   oben += Bildhoehe + 1;
   oben +=
       blatt.Absatz({satz.left(), oben}, satz.width(),
@@ -280,7 +275,8 @@ Dokument Winkeldiagramm(const Winkelblatt& blatt, Winkelkurve kurve, Massstabswu
   Dokument dokument{u"Winkeldiagramm "_s + abstaende.name.toString(), {}};
   if (!blatt.bezug.empty()) dokument.titel += u" ("_s + Papiertext(blatt.bezug) + u')';
   const auto& sektoren = blatt.tabelle.sektoren;
-  if (!std::all_of(sektoren.begin(), sektoren.end(), abstaende.wert) || sektoren.empty()) return dokument;
+  const auto vorhanden = [kurve](const Sektor& sektor) { return Sektorabstand(sektor, kurve).has_value(); };
+  if (!std::all_of(sektoren.begin(), sektoren.end(), vorhanden) || sektoren.empty()) return dokument;
   dokument.seiten.push_back({Blattformat::Hoch, [d = Inhalte(blatt, art, massstab)](Blatt& papier) {
                                Seitenkopf(papier, Blattformat::Hoch, u"Winkeldämpfung in 10° - Schritten"_s,
                                           d.bezug);

@@ -26,16 +26,11 @@ std::string_view InAnfuehrung(char*& von, const char* ende) {
   throw Eingabefehler("Ein Anführungszeichen ist nicht geschlossen.");
 }
 
-/// A text in one line: runs of blanks and line feeds become one blank.
-std::string Einzeilig(std::string_view text) {
-  std::string zeile;
-  for (const char z : OhneFrage(text)) {
-    const bool luecke = z == ' ' || z == '\n';
-    if (!luecke) zeile.append(z == '"' ? 2 : 1, z);
-    if (luecke && !zeile.empty() && zeile.back() != ' ') zeile += ' ';
-  }
-  if (zeile.ends_with(' ')) zeile.pop_back();
-  return zeile;
+/// Without the quotes around it.
+std::string Zelleninhalt(std::string_view text) {
+  std::string inhalt;
+  for (const char z : Einzeilig(text)) inhalt.append(z == '"' ? 2 : 1, z);
+  return inhalt;
 }
 
 /// In quotes, and in one line.
@@ -76,7 +71,7 @@ void CsvZerlegen(std::span<char> zeile, char trenner, std::vector<std::string_vi
 }
 
 Csvschreiber::Csvschreiber(char trenner, char dezimal)
-    : trenner_(trenner), dezimal_(dezimal), dezimale_(dezimal), hinweise_(Einzeilig) {}
+    : trenner_(trenner), dezimal_(dezimal), dezimale_(dezimal), hinweise_(Zelleninhalt) {}
 
 void Csvschreiber::KopfSchreiben(Puffer& aus) const {
   char* ziel = TextSchreiben("Zeile", aus.Platz(PlatzFuerErgebnisse));

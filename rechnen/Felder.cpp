@@ -78,6 +78,17 @@ std::size_t PlatzFuerTexte(const Rechenwerte& werte, const std::vector<std::stri
   return bytes;
 }
 
+std::string Einzeilig(std::string_view meldung) {
+  std::string zeile;
+  for (const char z : OhneFrage(meldung)) {
+    const bool luecke = z == ' ' || z == '\n';
+    if (!luecke) zeile += z;
+    if (luecke && !zeile.empty() && zeile.back() != ' ') zeile += ' ';
+  }
+  if (zeile.ends_with(' ')) zeile.pop_back();
+  return zeile;
+}
+
 std::string_view OhneFrage(std::string_view meldung) {
   return meldung.substr(0, meldung.find("\n\nDiese Meldung in Zukunft wieder anzeigen?"));
 }

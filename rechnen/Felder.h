@@ -103,7 +103,7 @@ class Meldungstexte {
 };
 
 /// Room for all that is written of a calculation but the texts of the input and the notes: names, numbers and
-/// results, none of which has more than 50 characters.
+/// results, none of which has more than 60 characters.
 inline constexpr std::size_t PlatzFuerErgebnisse = std::size_t{16} * 1024;
 
 /// Room for the texts of the input, which can be of any length, and these notes.
@@ -111,5 +111,7 @@ std::size_t PlatzFuerTexte(const Rechenwerte& werte, const std::vector<std::stri
 
 /// A note without the question that only a window can ask.
 std::string_view OhneFrage(std::string_view meldung);
+/// And in one line: runs of blanks and line feeds become one blank.
+std::string Einzeilig(std::string_view meldung);
 
 }  // namespace vesk

@@ -62,7 +62,7 @@ Jsonschreiber::Jsonschreiber(Form form)
       werteEnde_(Umbruch(1) + "}"),
       zeile_(Schluessel(1, "Zeile")),
       ende_(Umbruch(0) + "}\n"),
-      hinweise_(Zeichenkette) {
+      hinweise_([](std::string_view meldung) { return Zeichenkette(Einzeilig(meldung)); }) {
   const auto sortiert = [](const auto& felder) {
     std::vector<std::size_t> stellen(felder.size());
     std::iota(stellen.begin(), stellen.end(), 0);

@@ -11,7 +11,10 @@ PAKETE_PROGRAMM=(
   fonts-dejavu-core fonts-liberation2  # dialog font; metric-compatible Arial for the printed pages
 )
 # shellcheck disable=SC2034
-PAKETE_TEST=(libgtest-dev libbenchmark-dev)
+PAKETE_TEST=(
+  libgtest-dev libbenchmark-dev
+  strace  # what the program asks of the system
+)
 
 # Without a UTF-8 locale Qt complains and file names with umlauts are lost.
 [[ $(locale charmap 2>/dev/null) == UTF-8 ]] || export LC_ALL=C.UTF-8
@@ -89,4 +92,11 @@ bauen() {
     melden "Der Bau ist fehlgeschlagen."
     exit 1
   fi
+}
+
+# clang_tidy [SWITCH...]: the product. Headers are read through the sources that include them. Those for Windows
+# need the headers of its compiler.
+clang_tidy() {
+  git ls-files -z -- '*.cpp' ':!fuzz' ':!tests' ':!bench' ':!*Windows.cpp' |
+    xargs -0 -n 1 -P "$(nproc)" clang-tidy-14 --quiet -p build/release "$@" 2> >(grep -v 'warnings\? generated' >&2)
 }

@@ -221,15 +221,18 @@ Meldungen BaenderKopieren(Station& s, const Kataloge& k, const Baenderwahl& wahl
   const int antenne = GenommeneAntenne(s, k);
   Station arbeit = s;
   std::string hinweise;
+  bool eigenes = false;  // the main window's result is among them
   for (std::size_t i = 0; i < zeilen.size(); ++i) {
     if (!kopierbar.test(i)) continue;
     Meldungen meldungen;
     BandEinstellen(arbeit, k, zeilen[i].frequenz, antenne, meldungen);
     const std::string hinweis = Hinweise(arbeit.ergebnis->zahlen, &meldungen);
     if (!hinweis.empty()) hinweise += '\n' + std::string(zeilen[i].band->name) + ": " + hinweis;
+    eigenes = eigenes || (s.ergebnis && s.ergebnis->eingabe == arbeit.ergebnis->eingabe);
     InFreieSpalteKopieren(arbeit, k);
   }
   BlattUebernehmen(s, arbeit);
+  if (eigenes) s.ergebnis->kopiert = true;
   s.schaubilder.baender &= ~kopierbar;
   return EineMeldung(hinweise.empty() ? "" : "Zu den kopierten Bändern:" + hinweise);
 }

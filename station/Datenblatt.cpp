@@ -4,6 +4,15 @@
 
 namespace vesk {
 
+std::string Spaltenname(int spalte) {
+  return std::string("Spalte ") + Spaltenbuchstabe(static_cast<std::int16_t>(spalte));
+}
+
+std::string Zellentitel(int spalte, Zeile zeile) {
+  return (Spaltenname(spalte) + ", ")
+      .append(Zeilenarten.at(static_cast<std::size_t>(zeile) - 1).beschriftung);
+}
+
 bool SpalteFrei(const Datenblattzellen& zellen, std::int16_t spalte) {
   const auto zelle = [&](Zeile zeile) -> const std::string& {
     return zellen.at(static_cast<std::size_t>(Gitterindex(spalte, zeile)));

@@ -38,6 +38,10 @@ inline constexpr std::array<Zeilenart, AnzahlZeilen> Zeilenarten = {{
 constexpr char Spaltenbuchstabe(std::int16_t spalte) {
   return static_cast<char>('A' + spalte - 1);
 }
+/// "Spalte A" to "Spalte G".
+std::string Spaltenname(int spalte);
+/// "Spalte A, Montagehöhe über Grund [m]"
+std::string Zellentitel(int spalte, Zeile zeile);
 
 /// A column (1 to 7) counts as free when its frequency or its power is empty.
 bool SpalteFrei(const Datenblattzellen& zellen, std::int16_t spalte);

@@ -174,7 +174,9 @@ Gleichung Gleich(const Zeichen& ergebnis, double konstante) {
 
 Gleichung GleichImBlatt(const Zeichen& ergebnis, Ausdruck formel, const std::string& text, float wert) {
   constexpr double Hundertstel = 0.01;
-  if (Ergibt(formel, {text, Hundertstel})) return {Wert(ergebnis, text), std::move(formel)};
+  // What the user has typed may go on behind the number.
+  const std::string zahl = Dezimal(text);
+  if (Ergibt(formel, {zahl, Hundertstel})) return {Wert(ergebnis, zahl), std::move(formel)};
   return Gleich(ergebnis, std::move(formel), wert);
 }
 

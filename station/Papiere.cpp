@@ -64,8 +64,7 @@ bool Leer(std::string_view text) {
 }
 
 Befund InSpalte(int spalte, Zeile zeile, const std::string& satz) {
-  const std::string name = {Spaltenbuchstabe(static_cast<std::int16_t>(spalte)), ':', ' '};
-  return {"Spalte " + name + satz, InZelle{spalte, zeile}};
+  return {Spaltenname(spalte) + ": " + satz, InZelle{spalte, zeile}};
 }
 
 void BenutzerPruefen(const Benutzer& benutzer, Befunde& befunde) {

@@ -45,7 +45,7 @@ Winkelblatt Spaltenblatt(const Station& s, int spalte) {
   Rechenwerte werte = Spaltenwerte(s, spalte);
   const Rechenergebnis e = Berechnen(werte, art);
   Winkelblatt blatt;
-  blatt.bezug = std::string("Spalte ") + Spaltenbuchstabe(static_cast<std::int16_t>(spalte));
+  blatt.bezug = Spaltenname(spalte);
   blatt.antenne = Zelle(s, spalte, ZeileAntenne);
   blatt.gewinn = Zelle(s, spalte, ZeileGewinn);
   blatt.frequenz = Zelle(s, spalte, ZeileFrequenz);

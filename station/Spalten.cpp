@@ -206,7 +206,7 @@ Meldungen SatzLaden(Station& s, const Kataloge& k) {
   D100Faerben(s, k);
   // A loss that is not the cable tab's was typed.
   s.verlusteGetippt = Zelle(s, s.werte.Spalte, ZeileVerluste) != satz.Gesamtdaempfung;
-  return WinkelUebernehmen(s, satz.Winkel, std::string("aus Spalte ") + Spaltenbuchstabe(s.werte.Spalte));
+  return WinkelUebernehmen(s, satz.Winkel, "aus " + Spaltenname(s.werte.Spalte));
 }
 
 Meldungen SpalteUebernehmen(Station& s, const Kataloge& k, Satz satz, bool still) {

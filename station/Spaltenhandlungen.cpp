@@ -48,11 +48,12 @@ Meldungen SpalteLoeschen(Station& s, const Kataloge& k, int spalte) {
   SpalteWaehlen(s, k, spalte);
   // A refused question counts as a change, too; so the next save writes the file in any case.
   s.UserGeaendert = true;
-  Meldung frage{Bestaetigung(
-      "Vesk",
-      std::string("Spalte ") + Spaltenbuchstabe(static_cast<std::int16_t>(spalte)) + " wirklich löschen?")};
+  Meldung frage{Bestaetigung("Vesk", Spaltenname(spalte) + " wirklich löschen?")};
   frage.danach = [spalte](Station& t, const Kataloge& kataloge, Antwort antwort) {
     if (antwort == Antwort::Ja) {
+      // Its figures may be the main window's, which then stand nowhere.
+      if (t.ergebnis && t.ergebnis->eingabe.texte[0] == Zelle(t, spalte, ZeileFrequenz))
+        t.ergebnis->kopiert = false;
       SpalteLeeren(t, spalte);
       Farben(t, spalte) = {};
     }

@@ -19,7 +19,7 @@ bool Leer(const Station& s, int spalte, Zeile von, Zeile bis) {
 }  // namespace
 
 std::string Spaltenstand(const Station& s, int spalte) {
-  std::string text = std::string("Spalte ") + Spaltenbuchstabe(static_cast<std::int16_t>(spalte)) + ": ";
+  std::string text = Spaltenname(spalte) + ": ";
   for (const Zeile zeile : {ZeileFrequenz, ZeileLeistung}) {
     const std::string_view name = Zeilenarten.at(static_cast<std::size_t>(zeile) - 1).beschriftung;
     if (s.rot[Zellenindex(spalte, zeile)]) text += std::string(name.substr(0, name.find(' '))) + " fehlt, ";

@@ -99,6 +99,16 @@ std::string NachWindows1252(std::string_view utf8) {
   return bytes;
 }
 
+std::string OhneWindows1252(std::string_view utf8) {
+  std::string zeichen;
+  while (!utf8.empty()) {
+    const Zeichen erstes = Erstes(utf8);
+    if (erstes.code != '?' && Byte(erstes.code) == '?') zeichen += utf8.substr(0, erstes.laenge);
+    utf8.remove_prefix(erstes.laenge);
+  }
+  return zeichen;
+}
+
 bool IstUtf8(std::string_view bytes) {
   bool mehrAlsAscii = false;
   while (!bytes.empty()) {
@@ -118,10 +128,23 @@ std::size_t Zeichenzahl(std::string_view utf8) {
 }
 
 std::string AlsWindows1252(std::string_view bytes) {
+  return IstUtf8(bytes) ? NachWindows1252(OhneMarke(bytes)) : std::string(bytes);
+}
+
+std::string_view OhneMarke(std::string_view bytes) {
   constexpr std::string_view Reihenfolgemarke = "\xEF\xBB\xBF";
-  if (!IstUtf8(bytes)) return std::string(bytes);
   if (bytes.starts_with(Reihenfolgemarke)) bytes.remove_prefix(Reihenfolgemarke.size());
-  return NachWindows1252(bytes);
+  return bytes;
+}
+
+std::string Anfang(std::string_view utf8, std::size_t zeichen) {
+  std::string text;
+  for (; !utf8.empty() && zeichen > 0 && utf8[0] != '\r' && utf8[0] != '\n'; --zeichen) {
+    const Zeichen erstes = Erstes(utf8);
+    text += utf8.substr(0, erstes.laenge);
+    utf8.remove_prefix(erstes.laenge);
+  }
+  return utf8.empty() ? text : text + "…";
 }
 
 std::string_view OhneBlanks(std::string_view text) {

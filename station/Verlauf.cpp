@@ -65,29 +65,36 @@ Station Wiederhergestellt(const Station& jetzt, const Station& ziel) {
 
 }  // namespace
 
-void Verlauf::Merken(const Station& vorher, const Station& jetzt, const void* feld) {
-  const bool weiter = feld != nullptr && feld == feld_;
-  feld_ = feld;
+bool Verlauf::Eintragen(const Station& vorher, const Station& jetzt, bool zumLetzten) {
   if (AndereDatei(vorher, jetzt)) {
     zurueck_.clear();
     vor_.clear();
-    return;
+    return true;
   }
-  if (!Geaendert(vorher, jetzt)) return;
+  if (!Geaendert(vorher, jetzt)) return false;
   vor_.clear();
-  if (weiter) return;
+  if (zumLetzten) return true;
   zurueck_.push_back(vorher);
   if (zurueck_.size() > MaxSchritte) zurueck_.pop_front();
+  return true;
+}
+
+void Verlauf::Merken(const Station& vorher, const Station& jetzt, const void* feld) {
+  const bool weiter = feld != nullptr && feld == feld_;
+  feld_ = feld;
+  if (Eintragen(vorher, jetzt, weiter)) unverlassen_ = feld != nullptr;
 }
 
 void Verlauf::MerkenBeimVerlassen(const Station& vorher, const Station& jetzt) {
-  Merken(vorher, jetzt, feld_);
+  Eintragen(vorher, jetzt, unverlassen_);
   feld_ = nullptr;
+  unverlassen_ = false;
 }
 
 bool Verlauf::Zurueck(Station& s) {
   if (zurueck_.empty()) return false;
   feld_ = nullptr;
+  unverlassen_ = false;
   vor_.push_back(s);
   s = Wiederhergestellt(s, zurueck_.back());
   zurueck_.pop_back();
@@ -97,6 +104,7 @@ bool Verlauf::Zurueck(Station& s) {
 bool Verlauf::Vor(Station& s) {
   if (vor_.empty()) return false;
   feld_ = nullptr;
+  unverlassen_ = false;
   zurueck_.push_back(s);
   s = Wiederhergestellt(s, vor_.back());
   vor_.pop_back();

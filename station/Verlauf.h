@@ -26,9 +26,13 @@ class Verlauf {
   bool VorMoeglich() const { return !vor_.empty(); }
 
  private:
+  /// False when nothing has changed that a step could take back.
+  bool Eintragen(const Station& vorher, const Station& jetzt, bool zumLetzten);
+
   std::deque<Station> zurueck_;  ///< before each step, the last one at the end
   std::vector<Station> vor_;     ///< after each step taken back
   const void* feld_ = nullptr;   ///< the last step was typed here and may go on
+  bool unverlassen_ = false;     ///< the last step was typed into a field that has not been left yet
 };
 
 }  // namespace vesk

@@ -22,6 +22,7 @@ Schritt Fehlend(const Station& s) {
 
 /// What is left when nothing is to be calculated or copied.
 Schritt ZuDenPapieren(const Station& s) {
+  if (s.UserGeaendert) return {"Datei speichern", {}, false, true};
   const std::size_t offen = PapierePruefen(s).size();
   if (offen == 0) return {"Papiere drucken", PapiereZeigen};
   return {"Papiere prüfen (" + std::to_string(offen) + " offen)", PapiereZeigen};
@@ -42,10 +43,6 @@ std::string NahfeldAngabe(const Ergebnis& ergebnis) {
   if ((flags & NahfeldHSMvde) != 0) Anfuegen(namen, "HSM VDE", ", ");
   if ((flags & NahfeldHSM306) != 0) Anfuegen(namen, "HSM 306", ", ");
   return "N: Im Nahfeld (" + namen + ").";
-}
-
-std::string Spaltenname(int spalte) {
-  return std::string("Spalte ") + Spaltenbuchstabe(static_cast<std::int16_t>(spalte));
 }
 
 }  // namespace

@@ -11,6 +11,7 @@ struct Schritt {
   std::string text;
   Handlung tun{};
   bool zurLeistung = false;  ///< power or distance is missing, otherwise the frequency
+  bool speichern = false;    ///< the file is to be saved
 };
 Schritt NaechsterSchritt(const Station& s);
 

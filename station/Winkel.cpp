@@ -1,5 +1,7 @@
 #include "station/Winkel.h"
 
+#include <algorithm>
+
 #include "engine/Zahlen.h"
 #include "station/Optionen.h"
 #include "station/Rechnung.h"
@@ -92,6 +94,32 @@ std::string EIRPText(const Station& s, std::size_t sektor) {
   }
   if (!s.winkel.ergebnis || sektor >= s.winkel.ergebnis->tabelle.sektoren.size()) return {};
   return Formatieren(s.winkel.ergebnis->tabelle.sektoren[sektor].EIRP);
+}
+
+bool WinkelUngesichert(const Station& s) {
+  const Daempfungen& tabelle = s.Datenblattspalten[0].Winkel;
+  const bool leer =
+      std::all_of(tabelle.begin(), tabelle.end(), [](const std::string& text) { return text.empty(); });
+  if (!s.winkel.bearbeitet || (leer && s.winkel.antenne.empty())) return false;
+  for (int spalte = 1; spalte <= static_cast<int>(AnzahlSpalten); ++spalte) {
+    const bool antenne = s.winkel.antenne.empty() || s.winkel.antenne == Zelle(s, spalte, ZeileAntenne);
+    if (antenne && tabelle == s.Datenblattspalten.at(static_cast<std::size_t>(spalte)).Winkel) return false;
+  }
+  return true;
+}
+
+Winkeldaten WinkeldatenDerSeite(const Station& s) {
+  return {s.winkel.antenne, s.winkel.gewinn, s.winkel.frequenz, s.Datenblattspalten[0].Winkel};
+}
+
+std::optional<float> Sektorabstand(const Sektor& sektor, Winkelkurve kurve) {
+  if (kurve == Winkelkurve::OhneHSM) return sektor.ohneHSM;
+  return kurve == Winkelkurve::HSM306 ? sektor.HSM306 : sektor.HSMvde;
+}
+
+std::optional<float> Sektorabstand(const Station& s, std::size_t sektor, Winkelkurve kurve) {
+  if (!s.winkel.ergebnis || sektor >= s.winkel.ergebnis->tabelle.sektoren.size()) return std::nullopt;
+  return Sektorabstand(s.winkel.ergebnis->tabelle.sektoren[sektor], kurve);
 }
 
 Meldungen WinkelGetippt(Station& s, const Kataloge&, Winkelfeld feld, const std::string& text) {

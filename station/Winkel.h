@@ -16,6 +16,14 @@ bool SektorAktuell(const Station& s, std::size_t sektor);
 bool EIRPAktuell(const Station& s, std::size_t sektor);
 /// Text of a sector's EIRP field.
 std::string EIRPText(const Station& s, std::size_t sektor);
+/// Safety distance in m; none: not calculated, or no limit at the frequency.
+std::optional<float> Sektorabstand(const Sektor& sektor, Winkelkurve kurve);
+std::optional<float> Sektorabstand(const Station& s, std::size_t sektor, Winkelkurve kurve);
+
+/// A table that the user has typed or changed, and that stands in no file and in no column of the sheet.
+bool WinkelUngesichert(const Station& s);
+/// The table as a file holds it.
+Winkeldaten WinkeldatenDerSeite(const Station& s);
 
 Meldungen WinkelGetippt(Station& s, const Kataloge& k, Winkelfeld feld, const std::string& text);
 Meldungen WinkeldaempfungGetippt(Station& s, const Kataloge& k, std::size_t sektor, const std::string& text);

@@ -28,4 +28,18 @@ inline Winkelebene EbeneAusName(std::string_view dateiname) {
   return Winkelebene::Keine;
 }
 
+/// Caption of a table in that plane.
+constexpr const char* Ebenentitel(Winkelebene ebene) {
+  constexpr std::array<const char*, 3> Titel = {"Winkeldämpfung von Richtantennen",
+                                                "Horizontale Winkeldämpfung von Richtantennen",
+                                                "Vertikale Winkeldämpfung von Richtantennen"};
+  return Titel.at(static_cast<std::size_t>(ebene));
+}
+
+/// Degrees of a sector: "00 - 10" to "80 - 90".
+inline std::string Sektorname(std::size_t sektor) {
+  const auto grad = [](std::size_t zehner) { return std::to_string(zehner) + '0'; };
+  return grad(sektor) + " - " + grad(sektor + 1);
+}
+
 }  // namespace vesk

@@ -7,6 +7,7 @@
 #include "app/Desktop.h"
 #include "app/Programm.h"
 #include "platform/Endesignal.h"
+#include "ui/basis/Lesbarkeit.h"
 #include "ui/basis/Programmbild.h"
 
 using namespace Qt::StringLiterals;
@@ -18,6 +19,7 @@ int main(int anzahl, char** argumente) {
   QApplication::setApplicationName(u"Vesk"_s);
   QApplication::setOrganizationName(u"Vesk"_s);
   QApplication::setWindowIcon(vesk::Programmbild(64, 1));
+  const vesk::Lesbarkeit lesbarkeit;
   QTranslator uebersetzung;
   if (uebersetzung.load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&uebersetzung);

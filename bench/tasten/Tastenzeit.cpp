@@ -37,10 +37,9 @@ class Stumm : public vesk::Meldungsboxen {
 double Dauer(QWidget& feld, Qt::Key taste, Qt::KeyboardModifiers zusatz) {
   const auto beginn = std::chrono::steady_clock::now();
   QTest::keyClick(&feld, taste, zusatz);
-  const QWidgetList alle = QApplication::topLevelWidgets();
-  for (QWidget* fenster : alle) {
-    if (fenster->isVisible()) fenster->repaint();
-  }
+  // Layouts first, then what each window has to paint anew.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
   QCoreApplication::processEvents();
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - beginn).count();
 }

@@ -120,8 +120,10 @@ TEST_F(Fenster, AktuelleSpalteRechnetMit) {
   EXPECT_EQ(Zelle(1, 7) + Zelle(1, 10), u"2.024.71");
   Klick(u"optSSB_1"_s, Optionen);
   EXPECT_NE(Zelle(1, 12), u"");
+  EXPECT_TRUE(Ding<QPushButton>(u"cmdRechnen"_s, Blatt).isEnabled());
   Aktivieren(u"frmVesk"_s);
   EXPECT_EQ(station.werte.Spalte, 0);
+  EXPECT_FALSE(Ding<QPushButton>(u"cmdRechnen"_s, Blatt).isEnabled());
 }
 
 TEST_F(Fenster, ZellenDesDatenblatts) {

@@ -88,6 +88,7 @@ TEST_F(Handbuch, WasInAnfuehrungszeichenStehtZeigtDasProgramm) {
   }
   Ablesen([](Station& s, const Kataloge& k) {
     s.Datenblattspalten[0].Winkel = {};
+    s.UserGeaendert = false;
     return KopfGeklickt(s, k, 2);
   });
   for (const Hinweis& box :

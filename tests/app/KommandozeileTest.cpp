@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -64,7 +65,7 @@ TEST(Verzeichnisse, MitgelieferteKommenEinmal) {
   const QString kabel = ordner.filePath(u"Kabel.txt"_s);
   QFile eigene(ordner.filePath(u"Antennen.txt"_s));
   ASSERT_TRUE(eigene.open(QIODevice::WriteOnly) && eigene.setPermissions(QFile::ReadOwner));
-  skript::Speicher speicher;
+  Merkspeicher speicher;
 
   MitgelieferteKopieren(v, speicher);
   EXPECT_EQ(Inhalt(kabel), Inhalt(v.daten + "/Kabel.txt"_L1));
@@ -76,6 +77,35 @@ TEST(Verzeichnisse, MitgelieferteKommenEinmal) {
   MitgelieferteKopieren(v, speicher);
   EXPECT_EQ(QDir(v.programm).entryList(QDir::Files), QStringList(u"TIPOFDAY.TXT"_s))
       << "gelöscht bleibt gelöscht";
+}
+
+TEST(Verzeichnisse, WoNichtsZuSchreibenIst) {
+  const QTemporaryDir ordner;
+  QFile(ordner.filePath(u"datei"_s)).open(QIODevice::WriteOnly);
+  Merkspeicher speicher;
+  const QString daten = QStringLiteral(VESK_DATEN);
+  EXPECT_EQ(MitgelieferteKopieren({ordner.filePath(u"datei/dort"_s), daten}, speicher),
+            "Ein Teil des Pfades ist kein Verzeichnis.");
+  EXPECT_TRUE(speicher.werte.isEmpty()) << "another time";
+  EXPECT_EQ(MitgelieferteKopieren({ordner.filePath(u"neu/dort"_s), daten}, speicher), "");
+}
+
+TEST(Verzeichnisse, NamenDieKeinTextSind) {
+  const char* const argumente[] = {"vesk", "--verzeichnis", "/tmp/\xFF", "x"};
+  std::ostringstream fehler;
+  EXPECT_EQ(ArgumenteLesen(4, argumente, fehler), std::nullopt);
+  EXPECT_NE(fehler.str().find("kein UTF-8"), std::string::npos);
+  EXPECT_EQ(ArgumenteLesen(2, argumente, fehler), QStringList(u"--verzeichnis"_s));
+  const QString hier = QDir::currentPath();
+  const QTemporaryDir ordner;
+  const std::string unlesbar = ordner.path().toStdString() + "/\xFF";
+  std::filesystem::create_directory(unlesbar);
+  std::filesystem::current_path(unlesbar);
+  EXPECT_EQ(VerzeichnisseBestimmen(u"x"_s, hier).programm, u""_s) << "not another one";
+  QDir::setCurrent(hier);
+  std::filesystem::remove(unlesbar);  // the toolkit cannot name it
+  EXPECT_EQ(VerzeichnisseBestimmen(u"/tmp/\uFFFD"_s, hier).programm, u"/tmp/\uFFFD"_s)
+      << "a name like others";
 }
 
 }  // namespace

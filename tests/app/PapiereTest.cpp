@@ -112,7 +112,7 @@ TEST_F(PapiereTest, PdfEntstehtGanzOderGarNicht) {
   Menue(u"mnuPapiereDrucken"_s, Vorschau);
   EXPECT_EQ(buehne.papier.seiten, Ding<QListWidget>(u"lstSeiten"_s, Vorschau).count());
   for (const auto& [ausgang, text] : {std::pair(Druckausgang::KeinDrucker, "kein Drucker eingerichtet"),
-                                      std::pair(Druckausgang::Gescheitert, "nicht angenommen")}) {
+                                      std::pair(Druckausgang::Gescheitert, "nicht alles gedruckt")}) {
     buehne.papier.ausgang = ausgang;
     buehne.boxen.Erwarten("Drucken", text);
     Menue(u"mnuPapiereDrucken"_s, Vorschau);

@@ -4,13 +4,14 @@
 namespace vesk {
 namespace {
 
-/// Pages that scroll; a list may, as long as it shows enough lines.
+/// Pages and tables that scroll; a list may, as long as it shows enough lines.
 QStringList Rollende(const QWidget& fenster) {
   QStringList namen;
-  for (const QScrollArea* flaeche : fenster.findChildren<QScrollArea*>()) {
+  for (const QAbstractScrollArea* flaeche : fenster.findChildren<QAbstractScrollArea*>()) {
+    if (qobject_cast<const QListView*>(flaeche) != nullptr) continue;
     const bool rollt =
         flaeche->verticalScrollBar()->isVisible() || flaeche->horizontalScrollBar()->isVisible();
-    if (rollt) namen << fenster.objectName() + u'/' + flaeche->widget()->objectName();
+    if (rollt) namen << fenster.objectName() + u'/' + flaeche->objectName();
   }
   return namen;
 }

@@ -67,6 +67,18 @@ TEST_F(Rundreise, NachEinemAbsturzKommtDasGetippteZurueck) {
   EXPECT_EQ(Lauf(path()).station.Zellen[0], "12 m");
 }
 
+TEST_F(Rundreise, WoNichtsZuSchreibenIst) {
+  skript::Buehne buehne;
+  buehne.speicher.werte = Lauf::OhneTips;
+  buehne.boxen.Erwarten("Vesk - Fehlermeldung", "läßt sich nichts schreiben.\nDie Berechtigung fehlt.");
+  Station station;
+  const QString daten = QStringLiteral(VESK_DATEN);
+  Programm programm(station, buehne.plattform, {filePath(u"fehlt"_s), daten, "Die Berechtigung fehlt."});
+  programm.Starten();
+  programm.Befehlen(Befehl::OptionenZeigen);
+  EXPECT_GT(Lauf::Ding<QListWidget>(u"LstAntennen"_s, u"frmOptions"_s).count(), 2) << "the shipped ones";
+}
+
 TEST_F(Rundreise, KeinVerlustWennDasSpeichernScheitert) {
   Lauf lauf(path());
   lauf.Rechnen(Stationen[3].split(u' '));

@@ -43,7 +43,8 @@ TEST(Zahlen, Zahl) {
     EXPECT_EQ(Zahl(zeile["text"]), zeile.Wert("wert")) << zeile.text;
   }
   EXPECT_EQ(Zahl("0.0" + std::string(400, '0') + "1"), 0);
-  for (const std::string& text : {"3.5e38"s, "1.5e400"s, "0.00001e400"s, "-" + std::string(400, '9')}) {
+  for (const std::string& text :
+       {"3.5e38"s, "1.5e400"s, "0.00001e400"s, "12e9223372036854775807"s, "-" + std::string(400, '9')}) {
     EXPECT_THROW(Zahl(text), Laufzeitfehler) << text;
     EXPECT_EQ(Positiv(text), text.front() != '-') << text;
   }

@@ -2,65 +2,13 @@
 
 #include <map>
 
-#include "persistence/Dateiablauf.h"
-#include "persistence/Pfade.h"
 #include "station/Operator.h"
-#include "tests/persistence/Antwortliste.h"
-#include "tests/persistence/Muster.h"
-#include "tests/persistence/Ordner.h"
+#include "tests/persistence/Programmlauf.h"
 
 namespace vesk {
 namespace {
 
-namespace fs = std::filesystem;
 using namespace std::chrono_literals;
-
-std::string MusterMit(const std::string& name) {
-  Station s = Musterstation();
-  s.benutzer.Name = name;
-  return UserDateiSchreiben(s);
-}
-
-std::string NameIn(const fs::path& pfad) {
-  Station s;
-  UserDateiLesen(Inhalt(pfad), s);
-  return s.benutzer.Name;
-}
-
-/// One running program in a directory. One that goes without Beenden has crashed.
-struct Lauf {
-  explicit Lauf(const fs::path& verzeichnis, const char* hinweis = nullptr) {
-    station.ProgrammVerzeichnis = PfadAlsUtf8(verzeichnis);
-    station.Arbeitsverzeichnis = station.UserVerzeichnis = "/anderswo";
-    if (hinweis != nullptr) fragen.Erwarten("Hinweis", hinweis);
-    ablauf.InitLaden();
-  }
-  void Aendern(const std::string& name) { station.benutzer.Name = name, station.UserGeaendert = true; }
-  void Speichern(const std::string& name) { Aendern(name), ablauf.UserSpeichern(); }
-  void Laden(const std::optional<fs::path>& pfad) { fragen.Datei(pfad), ablauf.UserLaden(); }
-  void SpeichernUnter(const std::optional<fs::path>& pfad) {
-    fragen.Datei(pfad), ablauf.UserSpeichernUnter();
-  }
-  /// mnuUserNeu with both questions answered.
-  void Neu() {
-    fragen.Erwarten("Neues Datenblatt anlegen", "nacheinander", Antwort::Ja);
-    fragen.Erwarten("Vesk", "Datenblatt wirklich löschen?", Antwort::Ja);
-    ablauf.UserNeu();
-  }
-
-  Station station;
-  Kataloge kataloge;
-  Antwortliste fragen;
-  Dateiablauf ablauf{station, kataloge, fragen};
-};
-
-/// A program directory whose file holds the operator "eins".
-struct DateiablaufTest : testing::Test {
-  DateiablaufTest() { Anlegen(user, MusterMit("eins")); }
-  Ordner ordner;
-  Ordner anderswo;
-  fs::path user = ordner / "user.dat";
-};
 
 TEST_F(DateiablaufTest, NurWasSichAendertWirdGeschrieben) {
   fs::last_write_time(user, fs::last_write_time(user) - 1min);
@@ -272,38 +220,6 @@ TEST_F(DateiablaufTest, ZweiProgrammeAnEinerDatei) {
   erster.fragen.Erwarten("Vesk", "Die Datei eigene.dat ist in einem anderen Vesk geöffnet.", Antwort::Nein);
   erster.SpeichernUnter(ordner / "eigene.dat");
   EXPECT_EQ(NameIn(ordner / "eigene.dat"), "zweiter");
-}
-
-TEST_F(DateiablaufTest, NachEinemAbsturzKommtDasNeuereZurueck) {
-  const fs::path kopie = ordner / ".dl1.dat.rettung";
-  const auto abstuerzen = [&] {
-    Lauf lauf(ordner.pfad);
-    lauf.SpeichernUnter(anderswo / "dl1.dat");
-    lauf.Aendern("getippt");
-    lauf.ablauf.RettungSichern();
-  };
-  abstuerzen();
-  {
-    Lauf lauf(ordner.pfad);
-    lauf.fragen.Erwarten("Vesk", "ungesicherte Änderungen an dl1.dat", Antwort::Ja);
-    lauf.ablauf.RettungAnbieten();
-    EXPECT_EQ(lauf.station.benutzer.Name, "getippt");
-    EXPECT_EQ(lauf.station.UserVerzeichnis, PfadZumZeigen(anderswo.pfad));
-    EXPECT_TRUE(fs::exists(kopie)) << "a second crash loses nothing either";
-    lauf.ablauf.UserSpeichern();
-    EXPECT_EQ(NameIn(anderswo / "dl1.dat"), "getippt");
-    EXPECT_FALSE(fs::exists(kopie)) << "safe now";
-  }
-  for (const std::string gespeichert : {"getippt", "später"}) {
-    abstuerzen();
-    Anlegen(anderswo / "dl1.dat", MusterMit(gespeichert));
-    fs::last_write_time(kopie, fs::last_write_time(anderswo / "dl1.dat") - 1min);
-    Lauf lauf(ordner.pfad);
-    lauf.ablauf.RettungAnbieten();
-    EXPECT_FALSE(fs::exists(kopie));
-    EXPECT_EQ(fs::exists(anderswo / "dl1-alt.dat"), gespeichert == "später");
-  }
-  EXPECT_EQ(NameIn(anderswo / "dl1-alt.dat"), "getippt");
 }
 
 }  // namespace

@@ -112,9 +112,9 @@ TEST(DateiLesen, WasKeineGewoehnlicheDateiIst) {
   const Ordner ordner;
   mkfifo((ordner / "rohr").c_str(), 0600);
   const std::string grund = "Unter diesem Namen gibt es etwas, das keine gewöhnliche Datei ist.";
-  EXPECT_EQ(DateiLesen(ordner / "rohr").grund, grund);
+  EXPECT_EQ(DateiLesen(ordner / "rohr", 9).grund, grund);
   EXPECT_EQ(DateiSchreiben(ordner / "rohr", "neu"), grund);
-  EXPECT_EQ(DateiLesen("/dev/zero").grund, grund);
+  EXPECT_EQ(DateiLesen("/dev/zero", 9).grund, grund);
 }
 
 }  // namespace

@@ -127,5 +127,25 @@ TEST_F(WinkelablaufTest, SpeichernFragtWoEtwasVerlorenGinge) {
   EXPECT_EQ(WinkelLesen(Inhalt(ordner / "neu.ang")).antenne, "getippt");
 }
 
+/// The file's character set lacks them; nothing is replaced silently.
+TEST_F(WinkelablaufTest, FremdeBuchstaben) {
+  s.winkel.antenne = "Łódź ΩΩ";
+  fragen.Fehler(
+      "Winkel.ang konnte nicht gespeichert werden.\nEine Winkeldatei kann diese Zeichen im Namen der "
+      "Antenne nicht aufnehmen: ŁźΩΩ");
+  WinkelSpeichern(s, fragen);
+  EXPECT_TRUE(s.winkel.bearbeitet && ordner.Anzahl() == 0);
+
+  const std::string bytes = "[Großer Ω]\n\n\n0\n";
+  Anlegen(ordner / "o.ang", bytes);
+  s.winkel.bearbeitet = false;
+  fragen.Erwarten("Winkel-Datei laden", "Hier steht statt ihrer ein Fragezeichen: Ω");
+  EXPECT_TRUE(WinkelOeffnen(s, fragen, ordner / "o.ang"));
+  EXPECT_EQ(s.winkel.antenne, "Großer ?");
+  fragen.Erwarten("Winkel-Datei speichern", "o.ang gibt es bereits.", Antwort::Nein);
+  WinkelSpeichern(s, fragen);
+  EXPECT_EQ(Inhalt(ordner / "o.ang"), bytes);
+}
+
 }  // namespace
 }  // namespace vesk

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QtTest>
 #include <QtWidgets>
 #include <functional>
 
@@ -84,6 +85,26 @@ TEST(Boxen, RahmenSchliesstKeineFrage) {
   const auto schliessen = [] { QApplication::activeModalWidget()->close(); };
   EXPECT_EQ(Antworten(Antwort::Nein, schliessen, {{Druck, Qt::Key_Return}, {Los, Qt::Key_Return}}),
             Antwort::Nein);
+}
+
+TEST(Boxen, MehrereHintereinanderFuehrenZumSelbenFensterZurueck) {
+  QWidget anderes;
+  QWidget fenster;
+  anderes.show();
+  fenster.show();
+  fenster.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&fenster));
+  QtMeldungsboxen boxen;
+  for (int i = 0; i < 3; ++i) {
+    QTimer::singleShot(0, qApp, [&] {
+      QWidget* box = QApplication::activeModalWidget();
+      EXPECT_EQ(box->parentWidget(), &fenster) << i;
+      box->close();
+      anderes.activateWindow();  // as a window manager may do
+    });
+    boxen.Zeigen({"Vesk", "Ein Text", Knoepfe::OK, Symbol::Ausrufezeichen, Antwort::OK});
+  }
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&fenster, 1000));
 }
 
 }  // namespace

@@ -1,13 +1,11 @@
 #pragma once
 #include <QImage>
-#include <QMap>
 #include <QPainter>
-#include <QPair>
 #include <QStringList>
 #include <QTextDocument>
 
+#include "platform/Buehne.h"
 #include "platform/Drucker.h"
-#include "platform/Plattform.h"
 #include "tests/Antworten.h"
 
 /// Scripted platform; nothing here ever opens a window.
@@ -35,18 +33,6 @@ class Hilfeaufrufe : public Hilfe {
     aufrufe.push_back({datei, befehl, kontext});
   }
   std::vector<Aufruf> aufrufe;
-};
-
-class Speicher : public Benutzerspeicher {
- public:
-  std::optional<QString> Lesen(const QString& abschnitt, const QString& schluessel) override {
-    const auto wert = werte.constFind({abschnitt, schluessel});
-    return wert == werte.constEnd() ? std::nullopt : std::optional<QString>(*wert);
-  }
-  void Schreiben(const QString& abschnitt, const QString& schluessel, const QString& wert) override {
-    werte.insert({abschnitt, schluessel}, wert);
-  }
-  QMap<QPair<QString, QString>, QString> werte;
 };
 
 class Ton : public Signalton {
@@ -99,17 +85,6 @@ class Anzeige : public Fortschrittsanzeige {
   std::size_t abbruchBei = 1000;
 };
 
-/// One of each, bundled as the windows take it.
-struct Buehne {
-  Boxen boxen;
-  Dialoge dialoge;
-  Hilfeaufrufe hilfe;
-  Speicher speicher;
-  Ton ton;
-  Papier papier;
-  Betrachtet betrachter;
-  Anzeige fortschritt;
-  Plattform plattform{boxen, dialoge, hilfe, speicher, ton, papier, betrachter, fortschritt};
-};
+using Buehne = vesk::Buehne<Boxen, Dialoge, Hilfeaufrufe, Ton, Papier, Betrachtet, Anzeige>;
 
 }  // namespace vesk::skript

@@ -9,14 +9,20 @@ namespace vesk {
 namespace {
 
 constexpr QRect Flaeche(20, 30, 400, 260);
+const Bildfarben Farben = [] {
+  Bildfarben farben{.grund = QColor(0, 0, 60), .schrift = Qt::white};
+  farben.kurven[1] = Qt::red;
+  return farben;
+}();
 using Werte = std::array<std::optional<double>, PolarSektoren>;
 
 QImage Bild(Polarskala skala, const Werte& werte) {
-  const Polarkurve kurve{QStringLiteral("Kurve"), Qt::red, Qt::SolidLine, werte};
+  const Polarkurve kurve{.name = QStringLiteral("Kurve"), .stil = 1, .werte = werte};
   QImage bild(440, 320, QImage::Format_RGB32);
   bild.fill(Qt::black);
   QPainter maler(&bild);
-  polardiagramm::paint(maler, Flaeche, {QStringLiteral("Titel"), QStringLiteral("m"), skala, {kurve}});
+  polardiagramm::paint(maler, Flaeche, {QStringLiteral("Titel"), QStringLiteral("m"), skala, {kurve}},
+                       Farben);
   return bild;
 }
 
@@ -60,7 +66,7 @@ TEST(Polardiagramm, AbstandWaechstNachAussenDaempfungNachInnen) {
 TEST(Polardiagramm, BleibtInSeinerFlaeche) {
   const QImage bild = Bild(Polarskala::Abstand, {5, 4, 3, 2, 1, 1, 1, 1, 1});
   for (const QPoint& ecke : {Flaeche.topLeft(), Flaeche.bottomRight()})
-    EXPECT_EQ(bild.pixelColor(ecke), QColor(Qt::white));
+    EXPECT_EQ(bild.pixelColor(ecke), Farben.grund);
   for (const Polarskala skala : {Polarskala::Abstand, Polarskala::Daempfung}) {
     for (const double wert : {0.0, -5.0, 1e-30, 1e30}) {
       QImage neben = Bild(skala, {1, wert});

@@ -30,6 +30,8 @@ std::string OhneWert(const std::string& json, int tiefe) {
 TEST(Rechnen, JsonTraegtAlleFelder) {
   const std::string json = Rechenlauf("--json --qrg 14,2 --pwr 100 --faktor 0.4 --gewinn -,0").aus;
   EXPECT_TRUE(json.starts_with("{\n    \"Meldungen\": [\n        \"Das Nahfeld ist größer")) << json;
+  const std::string meldungen = json.substr(0, json.find("Nahfeldflags"));
+  EXPECT_TRUE(meldungen.find("wieder") == std::string::npos && meldungen.find("\\n") == std::string::npos);
   for (const char* feld :
        {"\n    \"txtAusgabe\": \"1.26\",", "\n    \"txtGewinn\": \"-.0\",",
         "\n    ],\n    \"Nahfeldflags\": 1,\n    \"Werte\": {\n        \"AbstandHSM306\": ",

@@ -98,6 +98,7 @@ class Rechenwege : public testing::Test, protected Tisch {
         ++anzahl;
         const auto& [g, formel] = *zeile.gleichung;
         SymbolePruefen(formel);
+        EXPECT_TRUE(IstDezimalzahl(g.zahl)) << g.zahl;
         EXPECT_NEAR(Ausgerechnet(formel), std::stod(g.zahl), Einheit(g.zahl)) << Name(g);
         const bool blatt =
             std::string("d P a").find(g.symbol) != std::string::npos && Einheit(g.zahl) == 0.01;
@@ -238,6 +239,8 @@ TEST_F(Rechenwege, SagtWasMitDerSpalteIst) {
   const Station mitKabel = s;
   EXPECT_EQ(Gleichungen(), 21);
   sagt("RG213 nach Katalog: 1.86 dB je 100 m bei 10 MHz, 2.66 dB bei 20 MHz");
+  Zelle(1, ZeileVerluste, "1.11 dB");
+  EXPECT_EQ(Gleichungen(), 21);
   Zelle(1, ZeileVerluste, "2");
   sagt("von Hand eingetragen. Das Kabel der Spalte ergibt 1.11 dB.");
   sagt("Es zeigt in m: ohne HSM 1.75, HSM 306 7.35, HSM VDE 3.91.");

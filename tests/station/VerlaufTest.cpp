@@ -26,6 +26,7 @@ TEST_F(Rueckgaengig, GetipptesUndWasDarausFolgt) {
   for (const char* text : {"1", "14", "14."}) {
     Schritt([&] { Tippen(Eingabefeld::QRG, text); }, &s.werte.QRGText);
   }
+  Schritt([&] { Tun(TooltipsUmschalten); });  // from the keyboard, the field is left afterwards
   const Station vorher = s;
   Verlassen();
   verlauf.MerkenBeimVerlassen(vorher, s);
@@ -103,9 +104,12 @@ TEST(Wegweiser, NenntDenNaechstenSchrittUndTutIhn) {
   tun(), weg();
   EXPECT_EQ(WarumNichtKopierbar(t.s), "");
   tun(), weg();
+  EXPECT_TRUE(NaechsterSchritt(t.s).speichern);
+  t.s.UserGeaendert = false;
+  weg();
   EXPECT_EQ(wege,
             "Frequenz fehlt; Leistung fehlt; Berechnen: =; In Spalte A kopieren; Ergebnis veraltet: =; "
-            "In Spalte A kopieren; Papiere prüfen (" +
+            "In Spalte A kopieren; Datei speichern; Papiere prüfen (" +
                 std::to_string(PapierePruefen(t.s).size()) + " offen); ");
   EXPECT_EQ(t.Blatt(1, ZeileLeistung), "50");
   t.Tun(KopfGeklickt, 1).Zelle(1, ZeileLeistung, "60");

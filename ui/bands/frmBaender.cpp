@@ -5,14 +5,19 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <bitset>
+#include <utility>
 
-#include "print/Kurven.h"
+#include "engine/Bandlogik.h"
+#include "engine/Zahlen.h"
+#include "ui/bands/Bandtexte.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
+#include "ui/basis/Einpassen.h"
 #include "ui/basis/Feldhilfe.h"
 #include "ui/charts/Kurvenblick.h"
 
@@ -22,19 +27,6 @@ namespace vesk {
 
 namespace {
 
-// Columns of the table.
-constexpr int Band = 0;
-constexpr int Frequenz = 1;
-constexpr int Grenzwert = 4;
-constexpr int Nahfeld = 5;
-constexpr int ErstesErgebnis = 6;
-constexpr int Hinweisspalte = 9;
-constexpr std::size_t Spaltenzahl = 10;
-
-constexpr std::array<const char16_t*, Spaltenzahl> Koepfe = {
-    u"Band",         u"Frequenz\n[MHz]", u"Gewinn\n[dBi]", u"Verluste\n[dB]", u"Grenzwert\n[V/m]",
-    u"Nahfeld\n[m]", u"ohne HSM\n[m]",   u"HSM VDE\n[m]",  u"HSM 306\n[m]",   u"Hinweis"};
-
 constexpr Feldhilfe Tooltips[] = {
     {u"tblBaender", u"Leertaste kreuzt ein Band an, Enter kopiert die angekreuzten Bänder"},
     {u"cmdAlle", u"Kreuzt alle Bänder an, die sich berechnen lassen"},
@@ -42,39 +34,22 @@ constexpr Feldhilfe Tooltips[] = {
     {u"cmdBaenderKopieren", u"Jedes angekreuzte Band in die nächste freie Spalte des Datenblatts"},
 };
 
-QString Text(const std::string& utf8) {
-  return QString::fromStdString(utf8);
-}
+/// Asks for the height of all its rows, and for little width.
+class Bandtabelle : public QTableWidget {
+ public:
+  using QTableWidget::QTableWidget;
+  QSize sizeHint() const override {
+    const int zeilen = verticalHeader()->defaultSectionSize() * rowCount();
+    return {QTableWidget::sizeHint().width(),
+            horizontalHeader()->sizeHint().height() + zeilen + 2 * frameWidth()};
+  }
+};
 
-std::array<QString, Spaltenzahl> Zellen(const Bandzeile& zeile) {
-  const auto zahl = [&](Feld feld) {
-    const std::string wert = zeile.texte[feld].value_or("");
-    return wert.empty() ? u"–"_s : Text(wert);
-  };
-  return {QString::fromLatin1(zeile.band->name),
-          Text(zeile.frequenz),
-          Text(zeile.gewinn),
-          Text(zeile.verluste),
-          zahl(Feld::GrenzwertOhneHSM),
-          zahl(Feld::Nahfeld),
-          zahl(Feld::AusgabeOhneHSM),
-          zahl(Feld::AusgabeHSMvde),
-          zahl(Feld::AusgabeHSM306),
-          Text(zeile.hinweis)};
-}
-
-/// What is not in the table, or has no room there.
-QString Zeilentext(const Bandzeile& zeile) {
-  QString text = QString::fromLatin1(zeile.band->name) + u", "_s + Text(zeile.frequenz) + u" MHz: "_s;
-  const auto angabe = [&](Feld feld, const QString& name, const QString& einheit) {
-    const std::string wert = zeile.texte[feld].value_or("");
-    if (!wert.empty()) text += name + u' ' + Text(wert) + einheit;
-  };
-  angabe(Feld::GrenzwertOhneHSM, u"Grenzwert ohne HSM"_s, u" V/m"_s);
-  angabe(Feld::GrenzwertHSMvde, u", HSM VDE"_s, u" V/m"_s);
-  angabe(Feld::GrenzwertHSM306, u", HSM 306"_s, u" V/m"_s);
-  angabe(Feld::Nahfeld, u". Nahfeld"_s, u" m. "_s);
-  return text + Text(zeile.hinweis);
+/// Whether it was another one.
+bool TextSetzen(QTableWidgetItem& zelle, const QString& text) {
+  if (zelle.text() == text) return false;
+  zelle.setText(text);
+  return true;
 }
 
 }  // namespace
@@ -86,9 +61,8 @@ frmBaender::frmBaender(Ablauf& ablauf, const Kataloge& kataloge, QWidget* eltern
       lblGrundlage(new QLabel(this)),
       lblHinweis(new QLabel(this)),
       lblAnzahl(new QLabel(this)),
-      tblBaender(new QTableWidget(this)),
-      imgBaender(new Kurvenblick(this)),
-      imgGross(new Kurvenblick(this)) {
+      tblBaender(new Bandtabelle(this)),
+      imgBaender(new Kurvenblick(this)) {
   setObjectName(u"frmBaender"_s);
   setWindowTitle(u"Alle Bänder"_s);
   setProperty(HilfekontextEigenschaft, 6001);
@@ -98,26 +72,29 @@ frmBaender::frmBaender(Ablauf& ablauf, const Kataloge& kataloge, QWidget* eltern
   lblHinweis->setWordWrap(true);
   lblAnzahl->setObjectName(u"lblAnzahl"_s);
   imgBaender->setObjectName(u"imgBaender"_s);
-  imgGross->setObjectName(u"imgGross"_s);
-  for (Kurvenblick* bild : {imgBaender, imgGross}) bild->setAccessibleName(u"Diagramm aller Bänder"_s);
+  imgBaender->setAccessibleName(u"Diagramm aller Bänder"_s);
+  // What they tell of the next row or another antenna shall not push the table up and down.
+  for (QLabel* text : {lblGrundlage, lblHinweis}) {
+    text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    MitSchrift(*text, [text] { text->setMinimumHeight(2 * text->fontMetrics().lineSpacing()); });
+  }
   TabelleAnlegen();
 
   auto* tabelle = new QWidget(this);
   auto* untereinander = new QVBoxLayout(tabelle);
   untereinander->setContentsMargins(0, 0, 0, 0);
-  untereinander->addWidget(tblBaender, 5);
+  untereinander->addWidget(tblBaender, 1);
   untereinander->addWidget(lblHinweis);
-  untereinander->addWidget(imgBaender, 4);
   auto* karten = new QTabWidget(this);
   karten->setObjectName(u"SSTab1"_s);
   karten->addTab(tabelle, u"&Tabelle"_s);
-  karten->addTab(imgGross, u"&Diagramm"_s);
+  karten->addTab(imgBaender, u"&Diagramm"_s);
   auto* spalte = new QVBoxLayout(this);
   spalte->addWidget(lblGrundlage);
   spalte->addWidget(karten, 1);
   spalte->addWidget(KnoepfeAnlegen());
-  const QSize platz = screen()->availableSize();
-  resize(QSize(1000, 820).boundedTo({platz.width() * 19 / 20, platz.height() * 7 / 8}));
+  Einpassen(*this);
+  resize(QSize(1000, height()).boundedTo(Fensterplatz(*this)));
   tblBaender->setFocus();
 }
 
@@ -125,7 +102,9 @@ void frmBaender::TabelleAnlegen() {
   tblBaender->setObjectName(u"tblBaender"_s);
   tblBaender->setAccessibleName(u"Alle Bänder"_s);
   tblBaender->setRowCount(static_cast<int>(Amateurbaender().size()));
-  tblBaender->setColumnCount(static_cast<int>(Spaltenzahl));
+  tblBaender->setColumnCount(static_cast<int>(Bandspalten));
+  for (int i = 0; i < tblBaender->columnCount(); ++i)
+    tblBaender->setHorizontalHeaderItem(i, new QTableWidgetItem(Kopftext(i, Modus::Abstand)));
   for (int zeile = 0; zeile < tblBaender->rowCount(); ++zeile) {
     for (int i = 0; i < tblBaender->columnCount(); ++i) {
       auto* zelle = new QTableWidgetItem;
@@ -142,10 +121,13 @@ void frmBaender::TabelleAnlegen() {
   tblBaender->setTabKeyNavigation(false);
   tblBaender->setWordWrap(false);
   tblBaender->verticalHeader()->hide();
-  tblBaender->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 5 / 4);
-  tblBaender->verticalHeader()->setMinimumSectionSize(fontMetrics().height());
+  MitSchrift(*tblBaender, [this] {
+    tblBaender->verticalHeader()->setMinimumSectionSize(tblBaender->fontMetrics().height());
+    tblBaender->verticalHeader()->setDefaultSectionSize(tblBaender->fontMetrics().height() * 5 / 4);
+  });
   QHeaderView* kopf = tblBaender->horizontalHeader();
-  kopf->setSectionResizeMode(QHeaderView::ResizeToContents);
+  // A header that fits its columns by itself measures all of them for every cell that changes.
+  kopf->setSectionResizeMode(QHeaderView::Fixed);
   kopf->setSectionResizeMode(Hinweisspalte, QHeaderView::Stretch);
   kopf->setMinimumSectionSize(fontMetrics().averageCharWidth() * 6);
   kopf->setHighlightSections(false);
@@ -189,41 +171,50 @@ void frmBaender::Zeigen(const Station& s) {
   }
   if (!s.fenster.baender) return gezeigt_.reset();
   if (gezeigt_ == s) return;
+  const bool geoeffnet = !gezeigt_;
   gezeigt_ = s;
   zeilen_ = AlleBaender(s, kataloge_);
   Schreiben(*lblGrundlage, Bandgrundlage(s, kataloge_));
   TabelleZeigen(s);
+  if (geoeffnet) BandAufsuchen(s);
   HinweisZeigen();
   AnzahlZeigen(s);
-  const Baenderbild bild = BaenderbildVon(s, zeilen_);
-  for (Kurvenblick* blick : {imgBaender, imgGross}) {
-    blick->Zeigen([bild](Blatt& blatt, const QRectF& flaeche,
-                         const Bildfarben& farben) { BaenderbildMalen(blatt, flaeche, bild, farben); },
-                  u"Die Tabelle nennt die Werte. "_s + Bildtext(bild.abstaende));
-  }
+  Baenderbild bild = BaenderbildVon(s, zeilen_);
+  if (bild_ == bild) return;
+  imgBaender->Zeigen([bild](Blatt& blatt, const QRectF& flaeche,
+                            const Bildfarben& farben) { BaenderbildMalen(blatt, flaeche, bild, farben); },
+                     u"Die Tabelle nennt die Werte. "_s + Bildtext(bild.abstaende));
+  bild_ = std::move(bild);
 }
 
 void frmBaender::TabelleZeigen(const Station& s) {
   const QSignalBlocker sperre(tblBaender);
-  QStringList koepfe;
-  for (const char16_t* kopf : Koepfe) koepfe << QString::fromUtf16(kopf);
-  if (s.modus == Modus::Leistung) {
-    for (int i = ErstesErgebnis; i < Hinweisspalte; ++i) koepfe[i].replace(u"[m]"_s, u"[W]"_s);
+  std::bitset<Bandspalten> anders;
+  for (std::size_t i = 0; i < Bandspalten; ++i) {
+    const int spalte = static_cast<int>(i);
+    anders[i] = TextSetzen(*tblBaender->horizontalHeaderItem(spalte), Kopftext(spalte, s.modus));
   }
-  tblBaender->setHorizontalHeaderLabels(koepfe);
-  for (int i = 0; i < tblBaender->rowCount(); ++i) {
-    const Bandzeile& zeile = zeilen_.at(static_cast<std::size_t>(i));
+  for (std::size_t i = 0; i < zeilen_.size(); ++i) {
+    const Bandzeile& zeile = zeilen_[i];
     const auto texte = Zellen(zeile);
-    for (int spalte = 0; spalte < tblBaender->columnCount(); ++spalte) {
-      QTableWidgetItem& zelle = *tblBaender->item(i, spalte);
-      zelle.setText(texte.at(static_cast<std::size_t>(spalte)));
+    for (std::size_t spalte = 0; spalte < Bandspalten; ++spalte) {
+      QTableWidgetItem& zelle = *tblBaender->item(static_cast<int>(i), static_cast<int>(spalte));
+      if (TextSetzen(zelle, texte.at(spalte))) anders.set(spalte);
       zelle.setForeground(
           palette().brush(zeile.rechenbar ? QPalette::Active : QPalette::Disabled, QPalette::Text));
     }
-    const bool an = s.schaubilder.baender.test(static_cast<std::size_t>(i));
-    const QVariant kreuz = an ? Qt::Checked : Qt::Unchecked;
-    tblBaender->item(i, Band)->setData(Qt::CheckStateRole, zeile.rechenbar ? kreuz : QVariant());
+    QTableWidgetItem& erste = *tblBaender->item(static_cast<int>(i), Band);
+    if (erste.data(Qt::CheckStateRole).isValid() != zeile.rechenbar) anders.set(Band);
+    const QVariant kreuz = s.schaubilder.baender.test(i) ? Qt::Checked : Qt::Unchecked;
+    erste.setData(Qt::CheckStateRole, zeile.rechenbar ? kreuz : QVariant());
   }
+  for (std::size_t i = 0; i < Bandspalten; ++i) {
+    if (anders.test(i)) Anpassen(static_cast<int>(i));
+  }
+}
+
+void frmBaender::Anpassen(int spalte) {
+  if (spalte != Hinweisspalte) tblBaender->resizeColumnToContents(spalte);
 }
 
 void frmBaender::AnzahlZeigen(const Station& s) {
@@ -244,6 +235,13 @@ void frmBaender::HinweisZeigen() {
   const int zeile = tblBaender->currentRow();
   if (zeilen_.empty() || zeile < 0) return;
   Schreiben(*lblHinweis, Zeilentext(zeilen_.at(static_cast<std::size_t>(zeile))).toStdString());
+}
+
+void frmBaender::BandAufsuchen(const Station& s) {
+  const Amateurband* band = AmateurbandVon(Zahl(s.werte.QRGText));
+  const auto zeile =
+      std::find_if(zeilen_.begin(), zeilen_.end(), [&](const Bandzeile& z) { return z.band == band; });
+  if (zeile != zeilen_.end()) tblBaender->setCurrentCell(static_cast<int>(zeile - zeilen_.begin()), Band);
 }
 
 void frmBaender::Umschalten(int zeile) {
@@ -271,19 +269,22 @@ bool frmBaender::eventFilter(QObject* objekt, QEvent* ereignis) {
   return QDialog::eventFilter(objekt, ereignis);
 }
 
-/// In a low window the table needs the room, for the chart has a page of its own; in a narrow one the
-/// distances need it, for the line below the table tells the rest.
+/// In a narrow window the distances need the room; the line below the table tells the rest.
 void frmBaender::resizeEvent(QResizeEvent* ereignis) {
   QDialog::resizeEvent(ereignis);
-  constexpr int Zeilen = 35;
-  constexpr int Zeichen = 115;
-  imgBaender->setVisible(height() > Zeilen * fontMetrics().height());
+  constexpr int Zeichen = 125;
   const bool schmal = width() < Zeichen * fontMetrics().averageCharWidth();
   for (const int spalte : {Frequenz, Grenzwert, Nahfeld}) {
+    if (tblBaender->isColumnHidden(spalte) == schmal) continue;
     tblBaender->setColumnHidden(spalte, schmal);
+    Anpassen(spalte);
   }
-  // What is told of the next row shall not push the table up and down.
-  lblHinweis->setMinimumHeight((schmal ? 2 : 1) * fontMetrics().lineSpacing());
+}
+
+void frmBaender::changeEvent(QEvent* ereignis) {
+  QDialog::changeEvent(ereignis);
+  if (ereignis->type() != QEvent::FontChange && ereignis->type() != QEvent::StyleChange) return;
+  for (int spalte = 0; spalte < tblBaender->columnCount(); ++spalte) Anpassen(spalte);
 }
 
 void frmBaender::reject() {

@@ -2,7 +2,7 @@
 #include <QDialog>
 #include <optional>
 
-#include "station/Baender.h"
+#include "print/Kurven.h"
 
 class QLabel;
 class QPushButton;
@@ -26,13 +26,18 @@ class frmBaender : public QDialog {
  protected:
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
   void resizeEvent(QResizeEvent* ereignis) override;
+  void changeEvent(QEvent* ereignis) override;
 
  private:
   void TabelleAnlegen();
   QWidget* KnoepfeAnlegen();
   void TabelleZeigen(const Station& s);
+  /// Gives a column the width of what stands in it.
+  void Anpassen(int spalte);
   void AnzahlZeigen(const Station& s);
   void HinweisZeigen();
+  /// The row of the band that the main window's frequency lies in, if any.
+  void BandAufsuchen(const Station& s);
   void Umschalten(int zeile);
 
   Ablauf& ablauf_;
@@ -40,13 +45,13 @@ class frmBaender : public QDialog {
   std::optional<bool> tooltips_;    ///< as shown
   std::optional<Station> gezeigt_;  ///< while open
   std::vector<Bandzeile> zeilen_;
+  std::optional<Baenderbild> bild_;
 
   QLabel* lblGrundlage;
   QLabel* lblHinweis;
   QLabel* lblAnzahl;
   QTableWidget* tblBaender;
-  Kurvenblick* imgBaender;  ///< below the table
-  Kurvenblick* imgGross;    ///< on a page of its own
+  Kurvenblick* imgBaender;
   QPushButton* cmdBaenderKopieren = nullptr;
 };
 

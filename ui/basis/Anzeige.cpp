@@ -9,6 +9,7 @@
 #include <QVariant>
 #include <algorithm>
 
+#include "station/Ergebniswerte.h"
 #include "ui/basis/Farben.h"
 
 using namespace Qt::StringLiterals;
@@ -86,6 +87,8 @@ void Schreiben(QLineEdit& feld, const std::string& text) {
 }
 
 void Schreiben(QLabel& label, const std::string& text) {
+  // Names of files, cables and antennas may look like markup.
+  label.setTextFormat(Qt::PlainText);
   TextSetzen(label, text);
 }
 
@@ -120,6 +123,14 @@ void ErgebnisFaerben(QLineEdit& feld, const QColor& grund, bool veraltet, const 
     feld.setFont(art);
   }
   feld.setProperty("Veraltet", veraltet);
+}
+
+void ErgebnisZeigen(QLineEdit& feld, const Ergebniswert& wert, const QColor& grund) {
+  if (const QString name = QString::fromStdString(wert.name); name != feld.accessibleName()) {
+    feld.setAccessibleName(name);
+  }
+  Schreiben(feld, wert.text);
+  ErgebnisFaerben(feld, grund, wert.veraltet);
 }
 
 void Ankreuzen(QAbstractButton& knopf, bool an) {

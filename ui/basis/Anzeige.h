@@ -11,6 +11,8 @@ class QWidget;
 /// focus of the user survive.
 namespace vesk {
 
+struct Ergebniswert;
+
 /// UTF-8. A changed field shows its head, not its tail; under the user's hands the cursor stays when only
 /// the case of the letters changes.
 void Schreiben(QLineEdit& feld, const std::string& text);
@@ -25,6 +27,8 @@ void ThemaFaerben(QWidget& widget);
 /// A result that does not belong to the inputs beside it is grey and slanted, and bears the property
 /// "Veraltet".
 void ErgebnisFaerben(QLineEdit& feld, const QColor& grund, bool veraltet, const QColor& schrift = Qt::black);
+/// Text and name, too.
+void ErgebnisZeigen(QLineEdit& feld, const Ergebniswert& wert, const QColor& grund);
 
 /// Also takes the mark from the only checked button of an exclusive group.
 void Ankreuzen(QAbstractButton& knopf, bool an);

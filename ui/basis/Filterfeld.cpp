@@ -22,6 +22,11 @@ Filterfeld::Filterfeld(Signalton& ton, QWidget* eltern) : QLineEdit(eltern), ton
           [this](QWidget*, QWidget* jetzt) { FokusGewechselt(jetzt); });
 }
 
+Filterfeld::~Filterfeld() {
+  // While the rest of it goes, the focus does.
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 void Filterfeld::focusInEvent(QFocusEvent* ereignis) {
   QLineEdit::focusInEvent(ereignis);
   if (betreten_) return;
@@ -58,6 +63,7 @@ void Filterfeld::keyPressEvent(QKeyEvent* ereignis) {
 }
 
 void Filterfeld::inputMethodEvent(QInputMethodEvent* ereignis) {
+  if (isReadOnly()) return;
   if (ereignis->commitString().isEmpty()) {
     QLineEdit::inputMethodEvent(ereignis);
     return;

@@ -11,6 +11,7 @@ class Filterfeld : public QLineEdit {
   Q_OBJECT
  public:
   explicit Filterfeld(Signalton& ton, QWidget* eltern = nullptr);
+  ~Filterfeld() override;
 
  Q_SIGNALS:
   /// The focus came from, or went to, another control or another window of the program. A menu, a message

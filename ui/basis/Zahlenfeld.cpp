@@ -66,6 +66,7 @@ void Zahlenfeld::keyPressEvent(QKeyEvent* ereignis) {
 void Zahlenfeld::inputMethodEvent(QInputMethodEvent* ereignis) {
   // Composed characters never show while they are composed; only a number can come of them.
   const QString& text = ereignis->commitString();
+  if (isReadOnly()) return;
   if (text.size() == 1) {
     QKeyEvent taste(QEvent::KeyPress, text.at(0).unicode(), Qt::NoModifier, text);
     keyPressEvent(&taste);

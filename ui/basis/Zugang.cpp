@@ -40,22 +40,14 @@ QAccessibleInterface* ZugangZu(const QString& /*klasse*/, QObject* objekt) {
   return new Zugang(static_cast<QWidget*>(objekt), static_cast<QAccessible::Role>(rolle.toInt()));
 }
 
-struct Einheit {
-  QStringView zeichen;
-  QStringView wort;
-};
-constexpr Einheit Einheiten[] = {
-    {u" [m]", u" Meter"}, {u" [W]", u" Watt"}, {u" [V/m]", u" Volt je Meter"},
-    {u" [V]", u" Volt"},  {u" [dB]", u" dB"},
-};
+QString Veraltet() {
+  return u"Ergebnisse veraltet"_s;
+}
 
-QString InWorten(const QLineEdit& feld) {
-  const QString name = feld.accessibleName();
-  for (const Einheit& einheit : Einheiten) {
-    if (name.endsWith(einheit.zeichen))
-      return name.chopped(einheit.zeichen.size()) + u' ' + feld.text() + einheit.wort.toString();
-  }
-  return name + u' ' + feld.text();
+/// Name of the field that the user types in; what he types he knows.
+QString GetipptesFeld() {
+  const auto* feld = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+  return feld != nullptr && !feld->isReadOnly() ? feld->accessibleName() : QString();
 }
 
 }  // namespace
@@ -74,56 +66,45 @@ Ansage::Ansage(QWidget* fenster) : QWidget(fenster) {
   connect(&sammeln_, &QTimer::timeout, this, &Ansage::Sammeln);
 }
 
-void Ansage::Beobachten(QLineEdit& feld) {
-  const auto schon = [&](const Beobachtet& beobachtet) { return beobachtet.feld == &feld; };
-  if (std::any_of(felder_.begin(), felder_.end(), schon)) return;
-  felder_.push_back({&feld});
-  feld.installEventFilter(this);
-  connect(&feld, &QLineEdit::textChanged, this, [this, &feld] { Melden(&feld); });
+void Ansage::Zeigen(Ergebniswerte werte) {
+  werte_ = std::move(werte);
+  if (!isVisible()) gesagt_ = werte_;
+  if (werte_ != gesagt_) Warten();
 }
 
-void Ansage::Vorlesen(QWidget& feld, const QList<const QLineEdit*>& ergebnisse) {
-  daneben_.insert(&feld, ergebnisse);
-  feld.installEventFilter(this);
-}
-
-bool Ansage::eventFilter(QObject* objekt, QEvent* ereignis) {
-  // Fields say by a property that they are out of date.
-  if (ereignis->type() == QEvent::DynamicPropertyChange) Melden(objekt);
-  if (ereignis->type() != QEvent::FocusIn) return false;
+void Ansage::Vorlesen(std::size_t erster, std::size_t anzahl) {
   QStringList texte;
-  const QList<const QLineEdit*> ergebnisse = daneben_.value(objekt);
-  for (const QLineEdit* feld : ergebnisse) {
-    if (!feld->text().isEmpty()) texte << InWorten(*feld);
+  bool veraltet = false;
+  for (std::size_t i = erster; i < erster + anzahl; ++i) {
+    if (werte_.at(i).text.empty()) continue;
+    texte << QString::fromStdString(InWorten(werte_.at(i)));
+    veraltet = veraltet || werte_.at(i).veraltet;
   }
+  if (veraltet) texte << Veraltet();
   if (!texte.isEmpty()) Sagen(texte);
-  return false;
 }
 
-void Ansage::Melden(const QObject* feld) {
-  for (Beobachtet& beobachtet : felder_) {
-    const bool tippt = beobachtet.feld->hasFocus() && !beobachtet.feld->isReadOnly();
-    if (beobachtet.feld == feld && !tippt) beobachtet.neu = true;
-  }
-  constexpr int Warten = 20;  // ms: for the other windows
-  sammeln_.start(isActiveWindow() ? Warten : 0);
+void Ansage::Warten() {
+  constexpr int Andere = 20;  // ms: for the other windows
+  sammeln_.start(isActiveWindow() ? Andere : 0);
 }
 
 void Ansage::Sammeln() {
+  const Ergebniswerte vorher = std::exchange(gesagt_, werte_);
+  const QString getippt = GetipptesFeld();
   QStringList texte;
-  bool veraltet = false;
-  for (Beobachtet& beobachtet : felder_) {
-    const QLineEdit& feld = *beobachtet.feld;
-    if (!std::exchange(beobachtet.neu, false) || !feld.isVisible() || feld.text().isEmpty()) continue;
-    texte << InWorten(feld);
-    veraltet = veraltet || feld.property("Veraltet").toBool();
+  for (std::size_t i = 0; i < werte_.size(); ++i) {
+    const Ergebniswert& wert = werte_[i];
+    const bool wieZuvor = i < vorher.size() && vorher[i] == wert;
+    if (wieZuvor || wert.text.empty() || QString::fromStdString(wert.name) == getippt) continue;
+    texte << (wert.veraltet ? Veraltet() : QString::fromStdString(InWorten(wert)));
   }
-  if (veraltet) texte = {u"Ergebnisse veraltet"_s};
   const QStringList fremde = std::exchange(fremde_, {});
   for (const QString& text : fremde) {
     const auto dasselbe = [&](const QString& eigener) { return eigener.endsWith(text); };
     if (std::none_of(texte.begin(), texte.end(), dasselbe)) texte << text;
   }
+  texte.removeDuplicates();
   if (!texte.isEmpty()) Sagen(texte);
 }
 
@@ -133,7 +114,7 @@ void Ansage::Sagen(const QStringList& texte) {
     for (Ansage* ansage : dort) {
       if (ansage->window() != aktiv || !ansage->isVisible()) continue;
       ansage->fremde_ << texte;
-      return ansage->Melden(nullptr);
+      return ansage->Warten();
     }
   }
   constexpr qsizetype Hoechstens = 8;

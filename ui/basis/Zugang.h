@@ -1,11 +1,9 @@
 #pragma once
 #include <QAccessible>
-#include <QHash>
 #include <QTimer>
 #include <QWidget>
-#include <vector>
 
-class QLineEdit;
+#include "station/Ergebniswerte.h"
 
 /// What screen readers are told beyond what the toolkit tells them by itself.
 namespace vesk {
@@ -21,26 +19,20 @@ class Ansage : public QWidget {
  public:
   explicit Ansage(QWidget* fenster);
 
-  /// A field that holds a result, with its unit in brackets at the end of its name; those that count most
-  /// first. While the user types in it nothing is said of it.
-  void Beobachten(QLineEdit& feld);
-  /// Results that stand beside a field are read out when it gets the focus.
-  void Vorlesen(QWidget& feld, const QList<const QLineEdit*>& ergebnisse);
-
- protected:
-  bool eventFilter(QObject* objekt, QEvent* ereignis) override;
-
- private:
-  struct Beobachtet {
-    QLineEdit* feld;
-    bool neu = false;
-  };
-  void Melden(const QObject* feld);
-  void Sammeln();
+  /// The results that the window shows now, those that count most first. What is not in sight is not said,
+  /// nor is what the user types himself.
+  void Zeigen(Ergebniswerte werte);
+  /// Says some of them, also when they have not changed.
+  void Vorlesen(std::size_t erster, std::size_t anzahl);
+  /// Says it at once.
   void Sagen(const QStringList& texte);
 
-  std::vector<Beobachtet> felder_;
-  QHash<const QObject*, QList<const QLineEdit*>> daneben_;
+ private:
+  void Warten();
+  void Sammeln();
+
+  Ergebniswerte werte_;
+  Ergebniswerte gesagt_;
   QStringList fremde_;  ///< results of other windows
   QTimer sammeln_;      ///< what changes together is said together
 };

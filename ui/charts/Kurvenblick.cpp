@@ -1,5 +1,6 @@
 #include "ui/charts/Kurvenblick.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <utility>
 
@@ -43,6 +44,7 @@ Bildfarben FarbenAus(const QPalette& palette) {
 
 Kurvenblick::Kurvenblick(QWidget* eltern) : QWidget(eltern) {
   setFocusPolicy(Qt::TabFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
   ZugangsrolleSetzen(*this, QAccessible::Graphic);
 }
 
@@ -65,13 +67,15 @@ void Kurvenblick::paintEvent(QPaintEvent* /*ereignis*/) {
   QPainter maler(this);
   const Bildfarben farben = FarbenAus(palette());
   maler.fillRect(rect(), farben.grund);
-  const double jeMillimeter = logicalDpiX() / ZollInMillimeter;
+  // In a window that has been made to fit the screen, the chart gets smaller with the letters.
+  const double jeMillimeter =
+      logicalDpiX() / ZollInMillimeter * fontMetrics().height() / QFontMetrics(QApplication::font()).height();
   if (maler_) {
     Blatt blatt(maler, jeMillimeter);
     const QRectF flaeche(QPointF(0, 0), QSizeF(size()) / jeMillimeter);
     maler_(blatt, flaeche.adjusted(Rand, Rand, -Rand, -Rand), farben);
   }
-  maler.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), hasFocus() ? 3 : 1));
+  maler.setPen(palette().color(QPalette::Mid));
   maler.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "print/Kurven.h"
 #include "station/Diagramme.h"
@@ -101,11 +102,13 @@ void frmDiagramme::Zeigen(const Station& s) {
   const Diagrammart art = s.schaubilder.diagramm;
   lstDiagramme->setCurrentRow(static_cast<int>(art));
   KabelZeigen(s);
-  const Kurvenbild bild = Diagramm(s, kataloge_, art);
+  Kurvenbild bild = Diagramm(s, kataloge_, art);
+  if (bild_ == bild) return;
   imgDiagramm->setAccessibleName(bild.titel);
   imgDiagramm->Zeigen([bild](Blatt& blatt, const QRectF& flaeche,
                              const Bildfarben& farben) { KurvenbildMalen(blatt, flaeche, bild, farben); },
                       Bildtext(bild));
+  bild_ = std::move(bild);
 }
 
 void frmDiagramme::KabelZeigen(const Station& s) {

@@ -2,6 +2,7 @@
 #include <QDialog>
 #include <optional>
 
+#include "print/Kurvenbild.h"
 #include "station/Handlung.h"
 
 class QLabel;
@@ -30,6 +31,7 @@ class frmDiagramme : public QDialog {
   const Kataloge& kataloge_;
   std::optional<bool> tooltips_;    ///< as shown
   std::optional<Station> gezeigt_;  ///< while open
+  std::optional<Kurvenbild> bild_;
 
   Auswahlliste* lstDiagramme;
   QLabel* lblKabel;

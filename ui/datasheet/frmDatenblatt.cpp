@@ -8,10 +8,12 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <algorithm>
 #include <cmath>
 
 #include "engine/Zahlen.h"
 #include "station/Datenblatt.h"
+#include "station/Ergebniswerte.h"
 #include "station/Operator.h"
 #include "station/Papiere.h"
 #include "station/Spalten.h"
@@ -109,10 +111,8 @@ frmDatenblatt::frmDatenblatt(Ablauf& ablauf, Signalton& ton, QWidget* eltern)
   gitter->addWidget(OptionsrahmenAnlegen(), AnzahlZeilen + 2, 0, 1, AnzahlSpalten + 1);
   gitter->setRowStretch(AnzahlZeilen + 3, 1);
   setCentralWidget(flaeche);
-  auto* ansage = new Ansage(this);
-  for (std::size_t i = 0; i < AnzahlZellen; ++i) {
-    if (i % AnzahlZeilen + 1 >= ZeileOhneHSM) ansage->Beobachten(*txtA[i]);
-  }
+  ansage_ = new Ansage(this);
+  setProperty(HilfekontextEigenschaft, 2001);
   Einpassen(*this);
 
   HilfenummernSetzen(*this, Hilfenummern);
@@ -132,6 +132,10 @@ void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, int spalte, Signalton& to
   kopf->setText(buchstabe);
   kopf->setAccessibleDescription(u"Eingabetaste berechnet die Spalte, Entfernen löscht die Spalte"_s);
   connect(kopf, &Spaltenkopf::geklickt, this, [this, spalte](Qt::MouseButton taste) {
+    // What is typed next belongs to the column that is now current.
+    const auto* zelle = std::find(txtA.begin(), txtA.end(), focusWidget());
+    const int zeile = static_cast<int>((zelle - txtA.begin()) % AnzahlZeilen) + 1;
+    if (zelle != txtA.end()) txtA[Zellenindex(spalte, Zeile(zeile))]->setFocus(Qt::OtherFocusReason);
     ablauf_.Tun(Mit(taste == Qt::LeftButton ? KopfGeklickt : SpalteLoeschen, spalte));
   });
   lblSpalte[std::size_t(spalte) - 1] = kopf;
@@ -144,7 +148,7 @@ void frmDatenblatt::SpalteAnlegen(QGridLayout& gitter, int spalte, Signalton& to
     const std::size_t index = Zellenindex(spalte, Zeile(zeile));
     auto* zelle = new Zellenfeld(ton, flaeche);
     zelle->setObjectName(u"txtA_"_s + QString::number(index));
-    zelle->setAccessibleName(u"Spalte "_s + buchstabe + u", "_s + Text(art.beschriftung));
+    zelle->setAccessibleName(Text(Zellentitel(spalte, Zeile(zeile))));
     zelle->setMaxLength(int(MaxZellenlaenge));
     MindestensBreit(*zelle, 9);
     zelle->kommaWirdPunkt = art.numerisch;
@@ -169,7 +173,7 @@ QWidget* frmDatenblatt::OptionsrahmenAnlegen() {
           [this](bool an) { ablauf_.Tun(Mit(OptionenSchalten, an)); });
   lblModIdx = new QLabel(rahmen);
   lblModIdx->setObjectName(u"lblModIdx"_s);
-  auto* cmdRechnen = new QPushButton(u"Rechnen"_s, rahmen);
+  cmdRechnen = new QPushButton(u"Rechnen"_s, rahmen);
   cmdRechnen->setObjectName(u"cmdRechnen"_s);
   cmdRechnen->setAutoDefault(true);  // Enter presses it
   connect(cmdRechnen, &QPushButton::clicked, this, [this] { ablauf_.Tun(SpalteRechnen); });
@@ -205,6 +209,10 @@ void frmDatenblatt::Zeigen(const Station& station) {
   Schreiben(*lblSpaltenstand, aktuell != 0
                                   ? Spaltenstand(station, aktuell)
                                   : "Keine Spalte ist aktuell; ein Klick oder Strg+1 bis 7 wählt eine.");
+  // Disabling it would send the focus anywhere.
+  if (aktuell == 0 && focusWidget() == cmdRechnen) chkOptionen->setFocus(Qt::OtherFocusReason);
+  Sperren(*cmdRechnen, aktuell != 0 ? QString() : u"Keine Spalte ist aktuell."_s);
+  ansage_->Zeigen(Blattwerte(station));
   chkOptionen->setChecked(station.OptionenBeruecksichtigen);
   if (station.titelGesetzt) setWindowTitle(Text(TitelDatenblatt(station)));
   if (tooltips_ != station.einstellungen.ToolTips) {

@@ -8,10 +8,12 @@
 class QCheckBox;
 class QGridLayout;
 class QLabel;
+class QPushButton;
 
 namespace vesk {
 
 class Ablauf;
+class Ansage;
 class Signalton;
 class Spaltenkopf;
 class Zellenfeld;
@@ -44,7 +46,9 @@ class frmDatenblatt : public QMainWindow {
   std::array<Zellenfeld*, AnzahlZellen> txtA{};
   QCheckBox* chkOptionen = nullptr;
   QLabel* lblModIdx = nullptr;
+  QPushButton* cmdRechnen = nullptr;
   QLabel* lblSpaltenstand;
+  Ansage* ansage_ = nullptr;
 };
 
 }  // namespace vesk

@@ -6,7 +6,6 @@
 #include <QWidget>
 
 #include "platform/Plattform.h"
-#include "ui/basis/Feldhilfe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,25 +13,16 @@ namespace vesk {
 
 namespace {
 
-constexpr Hilfenummer Blockanfaenge[] = {
-    {u"frmVesk", 1001}, {u"frmDatenblatt", 2001}, {u"frmOptions", 2100}, {u"frmLstg", 3001},
-    {u"frmUser", 4001}, {u"frmTip", 4001},        {u"frmInfo", 4001},
-};
-
-}  // namespace
-
+/// Of the control or of the nearest one that it lies in; 0 if its window has no help.
 int Hilfekontext(const QWidget& control) {
   for (const QWidget* stelle = &control; stelle != nullptr; stelle = stelle->parentWidget()) {
     const int nummer = stelle->property(HilfekontextEigenschaft).toInt();
-    if (nummer != 0) return nummer;
-    if (stelle->isWindow()) break;
-  }
-  const QString fenster = control.window()->objectName();
-  for (const Hilfenummer& block : Blockanfaenge) {
-    if (block.name == fenster) return block.kontext;
+    if (nummer != 0 || stelle->isWindow()) return nummer;
   }
   return 0;
 }
+
+}  // namespace
 
 Hilfetaste::Hilfetaste(Hilfe& hilfe, QObject* eltern) : QObject(eltern), hilfe_(hilfe) {}
 

@@ -1,15 +1,12 @@
 #pragma once
 #include <QObject>
 
-class QWidget;
-
 namespace vesk {
 
 class Hilfe;
 
-/// Installed on the application: F1 opens the context entry of the nearest control that has a help number.
-/// Windows and controls without one get the first number of their window's block; in a menu F1 opens the
-/// manual.
+/// Installed on the application: F1 opens the context entry of the control, or of the nearest one that it
+/// lies in and that has a help number; in a menu F1 opens the manual.
 class Hilfetaste : public QObject {
  public:
   explicit Hilfetaste(Hilfe& hilfe, QObject* eltern = nullptr);
@@ -20,8 +17,5 @@ class Hilfetaste : public QObject {
  private:
   Hilfe& hilfe_;
 };
-
-/// Help number for F1 at `control`; 0 if its window has no help.
-int Hilfekontext(const QWidget& control);
 
 }  // namespace vesk

@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -156,6 +157,10 @@ QWidget* frmHilfe::InhaltAufbauen() {
   treInhalt->setObjectName(u"treInhalt"_s);
   treInhalt->setAccessibleName(u"Inhalt des Handbuchs"_s);
   treInhalt->setHeaderHidden(true);
+  // Where the window is too narrow for a title, it can be scrolled.
+  treInhalt->header()->setStretchLastSection(false);
+  treInhalt->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  treInhalt->setIndentation(2 * treInhalt->fontMetrics().averageCharWidth());
   QList<QTreeWidgetItem*> pfad;
   for (const Hilfeseite& seite : buch_.Inhalt()) {
     const int ebene = std::min(seite.ebene, static_cast<int>(pfad.size()));

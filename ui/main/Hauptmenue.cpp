@@ -29,7 +29,7 @@ constexpr Menueeintrag Bearbeiten[] = {
     {u"mnuWiederholen", u"&Wiederholen", Befehlend<Befehl::Wiederholen>, {}, false, u"Ctrl+Y"},
     {},
     {u"mnuBerechnen", u"&Berechnen", Tuend<Rechnen>, {}, false, u"F5"},
-    {u"mnuKopieren", u"Berechnen und &kopieren", Tuend<RechnenUndKopieren>, {}, false, u"Ctrl+Return"},
+    {u"mnuKopieren", u"Berechnen und &kopieren", Tuend<RechnenUndKopieren>, {}, false, u"Ctrl+Enter"},
 };
 constexpr Menueeintrag Optionen[] = {
     {u"mnuMoreOptions", u"&Weitere Optionen (Sendeart - Kabel - Antennen - Winkel)",
@@ -77,6 +77,7 @@ void HauptmenueAnlegen(QMenuBar& leiste, Ablauf& ablauf) {
   auto* zuletzt = new QMenu(u"&Zuletzt benutzt"_s, &leiste);
   zuletzt->setObjectName(u"mnuZuletzt"_s);
   zuletzt->menuAction()->setObjectName(u"mnuZuletzt"_s);
+  zuletzt->setEnabled(false);
   leiste.findChild<QMenu*>(u"mnuBedienung"_s)->insertMenu(leiste.findChild<QAction*>(u"mnuS1"_s), zuletzt);
   menue(u"mnuBearbeiten"_s, u"&Bearbeiten"_s, Bearbeiten);
   menue(u"mnuOption"_s, u"&Optionen"_s, Optionen);
@@ -89,6 +90,7 @@ void HauptmenueAnlegen(QMenuBar& leiste, Ablauf& ablauf) {
 
 void ZuletztZeigen(QMenuBar& leiste, const std::vector<std::string>& dateien, Ablauf& ablauf) {
   auto* menue = leiste.findChild<QMenu*>(u"mnuZuletzt"_s);
+  menue->setEnabled(!dateien.empty());
   menue->clear();
   for (std::size_t i = 0; i < dateien.size(); ++i) {
     const QString pfad = QString::fromStdString(dateien[i]);

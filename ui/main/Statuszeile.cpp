@@ -26,7 +26,7 @@ std::string Aenderungsangabe(const Station& s) {
   return s.UserGeaendert ? "nicht gespeichert" : "gespeichert";
 }
 std::string Spaltenangabe(const Station& s) {
-  return s.werte.Spalte == 0 ? "Hauptfenster" : std::string("Spalte ") + Spaltenbuchstabe(s.werte.Spalte);
+  return s.werte.Spalte == 0 ? "Hauptfenster" : Spaltenname(s.werte.Spalte);
 }
 std::string Antennenangabe(const Station& s) {
   return s.Datenblattspalten[0].Antenne;

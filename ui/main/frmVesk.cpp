@@ -39,6 +39,7 @@ void frmVesk::EreignisseVerbinden() {
   connect(cmdCopy, &QPushButton::clicked, this, [this] { ablauf_.Tun(InFreieSpalteKopieren); });
   connect(status_, &Statuszeile::weiter, this, [this](const Schritt& schritt) {
     if (schritt.tun) return ablauf_.Tun(schritt.tun);
+    if (schritt.speichern) return ablauf_.Befehlen(Befehl::DateiSpeichern);
     Eingabe(schritt.zurLeistung ? Eingabefeld::PWR : Eingabefeld::QRG).setFocus(Qt::TabFocusReason);
   });
 }

@@ -14,6 +14,7 @@ class QPushButton;
 namespace vesk {
 
 class Ablauf;
+class Ansage;
 class Klicklabel;
 class Statuszeile;
 struct Kataloge;
@@ -69,6 +70,7 @@ class frmVesk : public QMainWindow {
   QPushButton *cmdBerechnen = nullptr, *cmdCopy = nullptr;
   QListWidget* List1 = nullptr;
   Statuszeile* status_ = nullptr;
+  Ansage* ansage_ = nullptr;
 };
 
 }  // namespace vesk

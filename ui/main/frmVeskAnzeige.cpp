@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "station/Datenblatt.h"
+#include "station/Ergebniswerte.h"
 #include "station/Operator.h"
 #include "station/Rechnung.h"
 #include "station/Wegweiser.h"
@@ -12,6 +13,7 @@
 #include "ui/basis/Dezimaltrenner.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Klicklabel.h"
+#include "ui/basis/Zugang.h"
 #include "ui/main/Haupthilfe.h"
 #include "ui/main/Hauptmenue.h"
 #include "ui/main/Statuszeile.h"
@@ -166,12 +168,6 @@ void frmVesk::ModusZeigen(const Station& s) {
   Faerben(*lblModus, farben::HellGrau, texte.farbe);
   Beschriften(*lblPWR, Eingabe(Eingabefeld::PWR), texte.lblPWR);
   Schreiben(*lblSicherheit, texte.lblSicherheit);
-  const QString art = s.modus == Modus::Leistung ? u"Sendeleistung %1 [W]"_s : u"Sicherheitsabstand %1 [m]"_s;
-  for (std::size_t i = 0; i < Koepfe.size(); ++i) {
-    QLineEdit& feld = Ausgabe(static_cast<Feld>(static_cast<std::size_t>(Feld::AusgabeOhneHSM) + i));
-    const QString name = art.arg(QLatin1String(Koepfe.at(i)));
-    if (feld.accessibleName() != name) feld.setAccessibleName(name);
-  }
   if (!s.modusGewechselt) return;
   Schreiben(*lblModus, texte.lblModus);
   Aktion("mnuAbstand").setText(QString::fromUtf8(texte.mnuAbstand));
@@ -242,18 +238,20 @@ void frmVesk::AusgabenZeigen(const Station& s) {
     Kopftexte(*s.koepfe, Dezimaltrenner(), texte);
   }
   const Ausgabefarben farbe = FarbenDerAusgaben(s);
-  const bool veraltet = ErgebnisVeraltet(s);
-  for (std::size_t i = 0; i < ausgaben_.size(); ++i) {
-    Schreiben(*ausgaben_.at(i), texte[static_cast<Feld>(i)].value_or(""));
-    ErgebnisFaerben(*ausgaben_.at(i), farbe.at(i), veraltet);
-    ausgaben_.at(i)->setPlaceholderText(Platzhalter(farbe.at(i)));
+  Ergebniswerte werte = Hauptwerte(s, texte);
+  for (std::size_t i = 0; i < werte.size(); ++i) {
+    QLineEdit& feld = Ausgabe(Ausgabefolge.at(i));
+    const QColor& grund = farbe.at(static_cast<std::size_t>(Ausgabefolge.at(i)));
+    ErgebnisZeigen(feld, werte[i], grund);
+    feld.setPlaceholderText(Platzhalter(grund));
   }
+  ansage_->Zeigen(std::move(werte));
   Schreiben(*lblHinweis, Farbensinn(s));
   for (std::size_t i = 0; i < koepfe_.size(); ++i) {
     const auto feld = static_cast<Feld>(static_cast<std::size_t>(Feld::KopfOhneHSM) + i);
     Schreiben(*koepfe_.at(i), texte[feld].value_or(Koepfe.at(i)));
   }
-  Beschriften(*lblStrahlung, Ausgabe(Feld::Strahlung), s.StrahlungTitel);
+  Schreiben(*lblStrahlung, s.StrahlungTitel);
 }
 
 void frmVesk::KopierknopfZeigen(const Station& s) {

@@ -9,6 +9,7 @@
 
 #include "engine/Version.h"
 #include "ui/basis/Anzeige.h"
+#include "ui/basis/Ausgabefeld.h"
 #include "ui/basis/Einpassen.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Klicklabel.h"
@@ -58,21 +59,6 @@ constexpr std::array<Eingabezeile, Eingabetexte.size()> Eingabezeilen = {{
     {u"txtWinkelDaempfung", u"lblWDaempfung", u"Winkeldämpfung [dB]"},
 }};
 
-/// Names for those who do not see the window, in the order of Feld.
-constexpr std::array<QStringView, AnzahlAusgaben> Ausgabenamen = {
-    u"Strahlungsleistung EIRP [W]",
-    u"Grenzwert ohne HSM [V/m]",
-    u"Grenzwert HSM VDE [V/m]",
-    u"Grenzwert HSM 306 [V/m]",
-    u"Spitzenspannung Uss HSM VDE [V]",
-    u"Spitzenspannung Uss HSM 306 [V]",
-    u"Ergebnis ohne HSM",
-    u"Ergebnis HSM VDE",
-    u"Ergebnis HSM 306",
-    u"Nahfeld bis [m]",
-    u"Fernfeld ab [m]",
-};
-
 }  // namespace
 
 frmVesk::frmVesk(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton)
@@ -101,10 +87,8 @@ frmVesk::frmVesk(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton)
   statusBar()->addWidget(status_, 1);
   statusBar()->setSizeGripEnabled(false);
 
-  auto* ansage = new Ansage(this);
-  for (const Feld feld : {Feld::AusgabeOhneHSM, Feld::AusgabeHSMvde, Feld::AusgabeHSM306})
-    ansage->Beobachten(Ausgabe(feld));
-  for (QLineEdit* feld : ausgaben_) ansage->Beobachten(*feld);
+  ansage_ = new Ansage(this);
+  setProperty(HilfekontextEigenschaft, 1001);
   HilfenummernSetzen(*this, HauptHilfenummern());
   EreignisseVerbinden();
   TastenVerbinden();
@@ -189,12 +173,10 @@ QWidget* frmVesk::AusgabenAnlegen() {
     return QString::fromUtf8(Feldnamen.at(feld).data(), std::ssize(Feldnamen.at(feld)));
   };
   for (std::size_t i = 0; i < ausgaben_.size(); ++i) {
-    auto* feld = new QLineEdit(rhmAusgabe);
+    auto* feld = new Ausgabefeld(rhmAusgabe);
     feld->setObjectName(name(i));
-    feld->setReadOnly(true);
     feld->setAlignment(Qt::AlignRight);
     MindestensBreit(*feld, Feldbreite);
-    feld->setAccessibleName(Ausgabenamen.at(i).toString());
     ausgaben_.at(i) = feld;
   }
   raster->addWidget(Titel(u"Label1"_s, u"Berechnung für  f  [MHz]"_s), 0, 0);

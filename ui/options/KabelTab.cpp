@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "station/Ergebniswerte.h"
 #include "station/Haupthandlungen.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
@@ -85,7 +86,6 @@ void KabelTab::Bauen(Signalton& ton) {
     label->setObjectName(u"lbl"_s + art.name.toString());
     label->setBuddy(feld);
   }
-  FeldVon(Kabelfeld::D100)->setAccessibleName(u"Kabeldämpfung je 100m [dB]"_s);
 
   cmdGleich = new QPushButton(u"="_s, this);
   cmdGleich->setObjectName(u"cmdGleich"_s);
@@ -133,9 +133,7 @@ void KabelTab::Anordnen() {
 }
 
 void KabelTab::Verbinden(Ablauf& ablauf) {
-  auto* ansage = new Ansage(this);
-  for (const Kabelfeld feld : {Kabelfeld::Gesamtdaempfung, Kabelfeld::Kabeldaempfung, Kabelfeld::D100})
-    ansage->Beobachten(*FeldVon(feld));
+  ansage_ = new Ansage(this);
   Zahlenfeld* txtQRG = FeldVon(Kabelfeld::QRG);
   connect(lstKabel, &Auswahlliste::gewaehlt, this,
           [&ablauf](int zeile) { ablauf.Tun(Mit(KabelGewaehlt, zeile)); });
@@ -158,17 +156,18 @@ void KabelTab::Verbinden(Ablauf& ablauf) {
 
 void KabelTab::Zeigen(const Station& s) {
   lstKabel->setCurrentRow(Kabelindex(s, kataloge_));
-  for (std::size_t i = 0; i < felder_.size(); ++i) {
-    Schreiben(*felder_.at(i), s.Datenblattspalten.front().*Kabeltexte.at(i));
+  for (const Kabelfeld feld : {Kabelfeld::QRG, Kabelfeld::KabelLaenge, Kabelfeld::Stecker}) {
+    Schreiben(*FeldVon(feld), s.Datenblattspalten.front().*Kabeltexte.at(static_cast<std::size_t>(feld)));
   }
   const bool frei = AnderesKabelGewaehlt(s, kataloge_);
-  for (const Kabelfeld verlust : {Kabelfeld::Kabeldaempfung, Kabelfeld::Gesamtdaempfung}) {
-    const bool veraltet = !KabelAktuell(s) && !FeldVon(verlust)->text().isEmpty();
-    ErgebnisFaerben(*FeldVon(verlust), farben::Weiss, veraltet);
+  Sperren(*FeldVon(Kabelfeld::D100), frei ? QString() : u"Einzugeben nur bei „Anderes Kabel“."_s);
+  Ergebniswerte werte = Kabelwerte(s);
+  for (std::size_t i = 0; i < werte.size(); ++i) {
+    const Kabelfeld feld = Kabelergebnisse.at(i);
+    const QColor grund = feld == Kabelfeld::D100 ? D100Grund(s.farbeD100, frei) : farben::Weiss;
+    ErgebnisZeigen(*FeldVon(feld), werte[i], grund);
   }
-  Zahlenfeld* txtD100 = FeldVon(Kabelfeld::D100);
-  Sperren(*txtD100, frei ? QString() : u"Einzugeben nur bei „Anderes Kabel“."_s);
-  Faerben(*txtD100, D100Grund(s.farbeD100, frei));
+  ansage_->Zeigen(std::move(werte));
   Schreiben(*lblKabelhinweis, Kabelhinweis(s, kataloge_));
 }
 

@@ -10,6 +10,7 @@ class QPushButton;
 namespace vesk {
 
 class Ablauf;
+class Ansage;
 class Auswahlliste;
 class Signalton;
 class Zahlenfeld;
@@ -33,6 +34,7 @@ class KabelTab : public QWidget {
   std::array<Zahlenfeld*, Kabeltexte.size()> felder_;
   QPushButton* cmdGleich;
   QLabel* lblKabelhinweis;
+  Ansage* ansage_;
 };
 
 }  // namespace vesk

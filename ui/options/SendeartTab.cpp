@@ -7,10 +7,10 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include "engine/Zahlen.h"
-#include "station/Optionen.h"
+#include "station/Ergebniswerte.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
+#include "ui/basis/Ausgabefeld.h"
 #include "ui/basis/Einpassen.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Zahlenfeld.h"
@@ -68,14 +68,12 @@ SendeartTab::SendeartTab(Ablauf& ablauf, Signalton& ton) {
                    ZyklusNamen, optDuty, this);
   rhmBetriebsart = Reihe(u"rhmBetriebsart"_s, u"Berechnung für Grenzwerttyp (nur für VDE 0848 Teil 3-1)"_s,
                          QBoxLayout::LeftToRight, u"optSSB"_s, TypNamen, optSSB, this);
-  txtSelectedModes = new QLineEdit(this);
+  txtSelectedModes = new Ausgabefeld(this);
   txtSelectedModes->setObjectName(u"txtSelectedModes"_s);
-  txtSelectedModes->setReadOnly(true);
   txtSelectedModes->setAccessibleName(u"Gewählte Betriebsarten"_s);
   txtFaktorB = new Zahlenfeld(ton, this);
   txtFaktorB->setObjectName(u"txtFaktorB"_s);
-  txtFaktorB->setAccessibleName(u"Faktor für Sendeart"_s);
-  (new Ansage(this))->Beobachten(*txtFaktorB);
+  ansage_ = new Ansage(this);
   Anordnen();
   Verbinden(ablauf);
 }
@@ -133,10 +131,10 @@ void SendeartTab::Zeigen(const Station& s) {
   for (std::size_t i = 0; i < optSSB.size(); ++i) {
     Ankreuzen(*optSSB.at(i), static_cast<int>(i) == s.werte.Grenzwerttyp);
   }
-  const float faktor = Faktor(s.werte);
   Schreiben(*txtSelectedModes, s.SelectedModes);
-  Schreiben(*txtFaktorB, Formatieren(faktor));
-  Faerben(*txtFaktorB, faktor < 1.0F ? farben::Gruen : farben::HellGruen);
+  const Ergebniswert faktor = FaktorDerSendeart(s);
+  ErgebnisZeigen(*txtFaktorB, faktor, Faktor(s.werte) < 1.0F ? farben::Gruen : farben::HellGruen);
+  ansage_->Zeigen({faktor});
 }
 
 }  // namespace vesk

@@ -13,6 +13,7 @@ class QRadioButton;
 namespace vesk {
 
 class Ablauf;
+class Ansage;
 class Signalton;
 class Zahlenfeld;
 struct Station;
@@ -38,6 +39,7 @@ class SendeartTab : public QWidget {
   std::array<QRadioButton*, 3> optSSB;
   QLineEdit* txtSelectedModes;
   Zahlenfeld* txtFaktorB;
+  Ansage* ansage_;
 };
 
 }  // namespace vesk

@@ -7,10 +7,12 @@
 #include <algorithm>
 
 #include "engine/Zahlen.h"
+#include "station/Kurven.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Farben.h"
 #include "ui/basis/Zahlenfeld.h"
+#include "ui/basis/Zugang.h"
 #include "ui/options/Winkelbild.h"
 
 namespace vesk {
@@ -21,24 +23,21 @@ namespace {
 
 static_assert(AnzahlSektoren == PolarSektoren);
 
-/// One kind of distance: its column, and its curve in a colour that can be seen on white.
+/// Background of the outputs of a sector.
+constexpr std::array<QColor, AnzahlWinkelspalten> Gruende = {farben::HellGrau, farben::HellGruen,
+                                                             farben::HellGelb, farben::HellRot};
+
 struct Abstandsart {
-  std::size_t spalte;
-  QColor farbe;
-  QStringView name;
-  QColor stift;
+  Winkelkurve kurve;
+  Grenzwertart art;
   Qt::PenStyle strich;
-  std::optional<float> (*wert)(const Sektor&);
 };
 
 /// As the curves lie one upon another.
 constexpr std::array<Abstandsart, 3> Abstandsarten = {{
-    {SpalteHSMvde, farben::HellGelb, u"HSM VDE", QColor(0x90, 0x70, 0x00), Qt::DashDotLine,
-     [](const Sektor& sektor) { return sektor.HSMvde; }},
-    {SpalteHSM306, farben::HellRot, u"HSM 306", QColor(0xC0, 0x20, 0x20), Qt::DashLine,
-     [](const Sektor& sektor) { return sektor.HSM306; }},
-    {SpalteOhneHSM, farben::HellGruen, u"ohne HSM", QColor(0x00, 0x80, 0x00), Qt::SolidLine,
-     [](const Sektor& sektor) { return std::optional(sektor.ohneHSM); }},
+    {Winkelkurve::HSMvde, Grenzwertart::HSMvde, Qt::DashDotLine},
+    {Winkelkurve::HSM306, Grenzwertart::HSM306, Qt::DashLine},
+    {Winkelkurve::OhneHSM, Grenzwertart::OhneHSM, Qt::SolidLine},
 }};
 
 /// A typed attenuation as a point of the picture; what holds no figure, or an absurd one, is none.
@@ -52,21 +51,25 @@ std::optional<double> Bildwert(const std::string& text) {
 }
 
 Polardaten Daempfungsbild(const std::array<std::string, AnzahlSektoren>& daempfung) {
-  Polarkurve kurve{u"relativ zur Hauptrichtung"_s, Qt::darkBlue, Qt::SolidLine, {}};
+  Polarkurve kurve{.name = u"relativ zur Hauptrichtung"_s, .stil = AnzahlGrenzwertarten};
   std::transform(daempfung.begin(), daempfung.end(), kurve.werte.begin(), Bildwert);
   return {.titel = u"Dämpfung"_s, .einheit = u"dB"_s, .skala = Polarskala::Daempfung, .kurven = {kurve}};
 }
 
-QString Rahmentitel(Winkelebene ebene) {
-  switch (ebene) {
-    case Winkelebene::Horizontal:
-      return u"Horizontale Winkeldämpfung von Richtantennen"_s;
-    case Winkelebene::Vertikal:
-      return u"Vertikale Winkeldämpfung von Richtantennen"_s;
-    case Winkelebene::Keine:
-      break;
+Polardaten Abstandsbild(const Station& s) {
+  Polardaten bild{.titel = u"Sicherheitsabstände"_s, .einheit = u"m"_s, .kurven = {}};
+  for (const Abstandsart& art : Abstandsarten) {
+    const auto stil = static_cast<std::size_t>(art.art);
+    Polarkurve kurve{
+        .name = QString::fromUtf8(Grenzwertartnamen.at(stil)), .stil = stil, .strich = art.strich};
+    for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
+      kurve.werte.at(i) = Sektorabstand(s, i, art.kurve);
+      kurve.veraltet = kurve.veraltet || (kurve.werte.at(i) && !SektorAktuell(s, i));
+    }
+    if (kurve.veraltet) kurve.name += u" (veraltet)"_s;
+    bild.kurven.push_back(std::move(kurve));
   }
-  return u"Winkeldämpfung von Richtantennen"_s;
+  return bild;
 }
 
 }  // namespace
@@ -82,47 +85,30 @@ void WinkelTab::Zeigen(const Station& s) {
   }
   for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
     Schreiben(*txtWDaempfung.at(i), daempfung.at(i));
-    const std::string EIRP = EIRPText(s, i);
-    Schreiben(*ausgaben_[SpalteEIRP].at(i), EIRP);
-    ErgebnisFaerben(*ausgaben_[SpalteEIRP].at(i), farben::HellGrau, !EIRP.empty() && !EIRPAktuell(s, i));
   }
-  picWinkel->Zeigen(Daempfungsbild(daempfung), AbstaendeZeigen(s));
+  Ergebniswerte werte = Winkelwerte(s);
+  for (std::size_t i = 0; i < werte.size(); ++i) {
+    ErgebnisZeigen(*ausgaben_.at(i), werte[i], Gruende.at(i % AnzahlWinkelspalten));
+  }
+  ansage_->Zeigen(std::move(werte));
+  picWinkel->Zeigen(Daempfungsbild(daempfung), Abstandsbild(s));
 
   const QString datei = QFileInfo(QString::fromStdString(s.winkel.datei)).fileName();
-  const QString titel = Rahmentitel(EbeneAusName(datei.toStdString()));
+  const QString titel = QString::fromUtf8(Ebenentitel(EbeneAusName(datei.toStdString())));
   if (rhmWinkel->title() != titel) rhmWinkel->setTitle(titel);
   Schreiben(*lblWDatei, datei.isEmpty() ? s.winkel.herkunft : datei.toStdString());
 }
 
-Polardaten WinkelTab::AbstaendeZeigen(const Station& s) {
-  Polardaten bild{.titel = u"Sicherheitsabstände"_s, .einheit = u"m"_s, .kurven = {}};
-  for (const Abstandsart& art : Abstandsarten) {
-    Polarkurve kurve{art.name.toString(), art.stift, art.strich, {}};
-    for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
-      std::optional<float> wert;
-      if (s.winkel.ergebnis && i < s.winkel.ergebnis->tabelle.sektoren.size()) {
-        wert = art.wert(s.winkel.ergebnis->tabelle.sektoren[i]);
-      }
-      const bool veraltet = wert && !SektorAktuell(s, i);
-      QLineEdit& feld = *ausgaben_.at(art.spalte).at(i);
-      Schreiben(feld, wert ? Formatieren(*wert) : std::string());
-      ErgebnisFaerben(feld, art.farbe, veraltet);
-      kurve.werte.at(i) = wert;
-      if (veraltet) kurve.farbe = farben::Veraltet;
-    }
-    if (kurve.farbe == farben::Veraltet) kurve.name += u" (veraltet)"_s;
-    bild.kurven.push_back(std::move(kurve));
-  }
-  return bild;
-}
-
 bool WinkelTab::eventFilter(QObject* objekt, QEvent* ereignis) {
+  const auto feld = std::find(txtWDaempfung.begin(), txtWDaempfung.end(), objekt);
+  const auto sektor = static_cast<std::size_t>(feld - txtWDaempfung.begin());
+  if (ereignis->type() == QEvent::FocusIn)
+    ansage_->Vorlesen(sektor * AnzahlWinkelspalten, AnzahlWinkelspalten);
   if (ereignis->type() != QEvent::KeyPress) return false;
   const auto* taste = static_cast<QKeyEvent*>(ereignis);
   const bool enter = taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter;
   if (!enter || (taste->modifiers() & Qt::ControlModifier) == 0) return false;
-  const auto feld = std::find(txtWDaempfung.begin(), txtWDaempfung.end(), objekt);
-  if (!taste->isAutoRepeat()) Nehmen(static_cast<std::size_t>(feld - txtWDaempfung.begin()));
+  if (!taste->isAutoRepeat()) Nehmen(sektor);
   return true;
 }
 

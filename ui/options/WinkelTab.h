@@ -2,6 +2,7 @@
 #include <QWidget>
 #include <array>
 
+#include "station/Ergebniswerte.h"
 #include "station/Winkel.h"
 
 class QGridLayout;
@@ -13,13 +14,10 @@ class QPushButton;
 namespace vesk {
 
 class Ablauf;
+class Ansage;
 class Signalton;
 class Winkelbild;
 class Zahlenfeld;
-struct Polardaten;
-
-/// Outputs of a sector, from left to right.
-enum Winkelspalten { SpalteEIRP, SpalteOhneHSM, SpalteHSMvde, SpalteHSM306, AnzahlWinkelspalten };
 
 /// Attenuation of a directional antenna in nine sectors, and the safety distances in each of them.
 class WinkelTab : public QWidget {
@@ -42,18 +40,17 @@ class WinkelTab : public QWidget {
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
   QLineEdit* KopfVon(Winkelfeld feld) const { return kopf_.at(static_cast<std::size_t>(feld)); }
-  /// Writes the columns of the distances; the picture of what stands there.
-  Polardaten AbstaendeZeigen(const Station& s);
   void Nehmen(std::size_t sektor);
 
   Ablauf& ablauf_;
   QGroupBox* rhmWinkel;
   std::array<QLineEdit*, 5> kopf_;  ///< in the order of Winkelfeld
   Sektorfelder<Zahlenfeld> txtWDaempfung;
-  std::array<Sektorfelder<QLineEdit>, AnzahlWinkelspalten> ausgaben_;
+  std::array<QLineEdit*, AnzahlSektoren * AnzahlWinkelspalten> ausgaben_;  ///< in the order of Winkelwerte
   QPushButton* Command1;
   QLabel* lblWDatei;
   Winkelbild* picWinkel;
+  Ansage* ansage_;
 };
 
 }  // namespace vesk

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "ui/basis/Ablauf.h"
+#include "ui/basis/Ausgabefeld.h"
 #include "ui/basis/Einpassen.h"
 #include "ui/basis/Feldfolge.h"
 #include "ui/basis/Textfeld.h"
@@ -22,20 +23,18 @@ struct Ausgabeart {
   QStringView name;
   QStringView kopf;
   QStringView einheit;
-  QStringView beschreibung;
 };
 
-/// In the order of Winkelspalten.
+/// In the order of Winkelwerte.
 constexpr std::array<Ausgabeart, AnzahlWinkelspalten> Ausgabearten = {{
-    {u"txtWEIRP", u"EIRP", u"[W]", u"EIRP %1 Grad [W]"},
-    {u"txtWAbstand", u"ohne HSM", u"[m]", u"Abstand ohne HSM %1 Grad [m]"},
-    {u"txtWHSMvde", u"HSM VDE", u"[m]", u"Abstand HSM VDE %1 Grad [m]"},
-    {u"txtWHSM306", u"HSM 306", u"[m]", u"Abstand HSM 306 %1 Grad [m]"},
+    {u"txtWEIRP", u"EIRP", u"[W]"},
+    {u"txtWAbstand", u"ohne HSM", u"[m]"},
+    {u"txtWHSMvde", u"HSM VDE", u"[m]"},
+    {u"txtWHSM306", u"HSM 306", u"[m]"},
 }};
 
-QString Sektorname(std::size_t i) {
-  const auto grad = [](std::size_t zehner) { return QString::number(10 * zehner).rightJustified(2, u'0'); };
-  return grad(i) + u" - "_s + grad(i + 1);
+QString Sektortext(std::size_t sektor) {
+  return QString::fromStdString(Sektorname(sektor));
 }
 
 QLabel* Beschriftung(QWidget* rahmen, const QString& text, QWidget* feld = nullptr) {
@@ -44,9 +43,8 @@ QLabel* Beschriftung(QWidget* rahmen, const QString& text, QWidget* feld = nullp
   return label;
 }
 
-void Einrichten(QLineEdit& feld, const QString& name, const QString& beschreibung) {
+void Einrichten(QLineEdit& feld, const QString& name) {
   feld.setObjectName(name);
-  feld.setAccessibleName(beschreibung);
   feld.setAlignment(Qt::AlignRight);
   GenauBreit(feld, 11);
 }
@@ -54,7 +52,7 @@ void Einrichten(QLineEdit& feld, const QString& name, const QString& beschreibun
 }  // namespace
 
 WinkelTab::WinkelTab(Ablauf& ablauf, Signalton& ton) : ablauf_(ablauf) {
-  rhmWinkel = new QGroupBox(u"Winkeldämpfung von Richtantennen"_s, this);
+  rhmWinkel = new QGroupBox(QString::fromUtf8(Ebenentitel(Winkelebene::Keine)), this);
   rhmWinkel->setObjectName(u"rhmWinkel"_s);
   KopfBauen(ton);
   TabelleBauen(ton);
@@ -77,7 +75,8 @@ WinkelTab::WinkelTab(Ablauf& ablauf, Signalton& ton) : ablauf_(ablauf) {
 void WinkelTab::KopfBauen(Signalton& ton) {
   const auto zahl = [&](const QString& name, const QString& beschreibung) {
     auto* feld = new Zahlenfeld(ton, rhmWinkel);
-    Einrichten(*feld, name, beschreibung);
+    Einrichten(*feld, name);
+    feld->setAccessibleName(beschreibung);
     return feld;
   };
   auto* txtWAntenne = new Textfeld(ton, rhmWinkel);
@@ -94,13 +93,11 @@ void WinkelTab::TabelleBauen(Signalton& ton) {
   for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
     const QString nummer = u'_' + QString::number(i);
     txtWDaempfung.at(i) = new Zahlenfeld(ton, rhmWinkel);
-    Einrichten(*txtWDaempfung.at(i), u"txtWDaempfung"_s + nummer,
-               u"Dämpfung %1 Grad [dB]"_s.arg(Sektorname(i)));
+    Einrichten(*txtWDaempfung.at(i), u"txtWDaempfung"_s + nummer);
+    txtWDaempfung.at(i)->setAccessibleName(u"Dämpfung %1 Grad [dB]"_s.arg(Sektortext(i)));
     for (std::size_t spalte = 0; spalte < Ausgabearten.size(); ++spalte) {
-      const Ausgabeart& art = Ausgabearten.at(spalte);
-      auto* feld = ausgaben_.at(spalte).at(i) = new QLineEdit(rhmWinkel);
-      Einrichten(*feld, art.name.toString() + nummer, art.beschreibung.toString().arg(Sektorname(i)));
-      feld->setReadOnly(true);
+      auto* feld = ausgaben_.at(i * AnzahlWinkelspalten + spalte) = new Ausgabefeld(rhmWinkel);
+      Einrichten(*feld, Ausgabearten.at(spalte).name.toString() + nummer);
       feld->setFocusPolicy(Qt::ClickFocus);
     }
   }
@@ -144,12 +141,12 @@ void WinkelTab::TabelleAnordnen(QGridLayout& raster) {
     const int stelle = static_cast<int>(spalte) + 2;
     kopf(Ausgabearten.at(spalte).kopf.toString(), Ausgabearten.at(spalte).einheit.toString(), stelle);
     for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
-      raster.addWidget(ausgaben_.at(spalte).at(i), static_cast<int>(i) + Erste, stelle);
+      raster.addWidget(ausgaben_.at(i * AnzahlWinkelspalten + spalte), static_cast<int>(i) + Erste, stelle);
     }
   }
   int zeile = Erste;
   for (std::size_t i = 0; i < AnzahlSektoren; ++i, ++zeile) {
-    raster.addWidget(Beschriftung(rhmWinkel, Sektorname(i), txtWDaempfung.at(i)), zeile, 0);
+    raster.addWidget(Beschriftung(rhmWinkel, Sektortext(i), txtWDaempfung.at(i)), zeile, 0);
     raster.addWidget(txtWDaempfung.at(i), zeile, 1);
   }
   auto* hinweis =
@@ -164,15 +161,7 @@ void WinkelTab::TabelleAnordnen(QGridLayout& raster) {
 }
 
 void WinkelTab::Verbinden() {
-  auto* ansage = new Ansage(this);
-  for (std::size_t i = 0; i < AnzahlSektoren; ++i) {
-    QList<const QLineEdit*> ergebnisse;
-    for (const auto& spalte : ausgaben_) {
-      ansage->Beobachten(*spalte.at(i));
-      ergebnisse.push_back(spalte.at(i));
-    }
-    ansage->Vorlesen(*txtWDaempfung.at(i), ergebnisse);
-  }
+  ansage_ = new Ansage(this);
   std::vector<QWidget*> folge(kopf_.begin(), kopf_.end() - 1);
   folge.insert(folge.end(), txtWDaempfung.begin(), txtWDaempfung.end());
   folge.insert(folge.end(), {Command1, KopfVon(Winkelfeld::Massstab)});

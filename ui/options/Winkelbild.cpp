@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "ui/charts/Kurvenblick.h"
+
 namespace vesk {
 
 Winkelbild::Winkelbild(QWidget* eltern) : QWidget(eltern) {
@@ -26,8 +28,9 @@ void Winkelbild::paintEvent(QPaintEvent* /*ereignis*/) {
   QPainter maler(this);
   maler.setFont(font());
   const QRectF oben(0, 0, width(), height() / 2.0);
-  polardiagramm::paint(maler, oben, daempfung_);
-  polardiagramm::paint(maler, oben.translated(0, oben.height()), abstaende_);
+  const Bildfarben farben = FarbenAus(palette());
+  polardiagramm::paint(maler, oben, daempfung_, farben);
+  polardiagramm::paint(maler, oben.translated(0, oben.height()), abstaende_, farben);
 }
 
 }  // namespace vesk

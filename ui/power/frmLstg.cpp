@@ -30,6 +30,15 @@ constexpr Hilfenummer Hilfenummern[] = {
     {u"txtDBm", 3001}, {u"txtDBW", 3002}, {u"txtWatt", 3003}, {u"rhmLeistung", 3004}, {u"lblReferat", 3005},
 };
 
+struct Feldart {
+  QStringView einheit;
+  QStringView beschriftung;
+};
+
+/// By Leistungseinheit.
+constexpr Feldart Feldarten[] = {
+    {u"DBm", u"Leistung in dBm"}, {u"DBW", u"Leistung in dBW"}, {u"Watt", u"Leistung in Watt"}};
+
 Meldungen Abgelehnt(const char* text) {
   return {Meldung{MitHilfe({"Hinweis", text}, HilfeUmrechnung)}};
 }
@@ -44,11 +53,8 @@ frmLstg::frmLstg(Ablauf& ablauf, Signalton& ton, char trenner, QWidget* eltern)
   Aufbauen(ton);
   HilfenummernSetzen(*this, Hilfenummern);
   new Feldfolge({felder_.begin(), felder_.end()}, this, Folgetasten::Auf);
-  auto* ansage = new Ansage(this);
-  for (Zahlenfeld* feld : felder_) {
-    ansage->Beobachten(*feld);
-    FeldVerbinden(*feld);
-  }
+  ansage_ = new Ansage(this);
+  for (Zahlenfeld* feld : felder_) FeldVerbinden(*feld);
   Einpassen(*this);
 }
 
@@ -57,17 +63,17 @@ void frmLstg::Aufbauen(Signalton& ton) {
   rhmLeistung->setObjectName(u"rhmLeistung"_s);
   auto* gitter = new QGridLayout(rhmLeistung);
   gitter->setColumnStretch(1, 1);
-  const QString einheiten[] = {u"DBm"_s, u"DBW"_s, u"Watt"_s};
-  const QString beschriftungen[] = {u"Leistung in dBm"_s, u"Leistung in dBW"_s, u"Leistung in Watt"_s};
   for (std::size_t i = 0; i < felder_.size(); ++i) {
+    const QString einheit = Feldarten[i].einheit.toString();
+    const QString beschriftung = Feldarten[i].beschriftung.toString();
     auto* feld = new Zahlenfeld(ton, rhmLeistung);
-    feld->setObjectName(u"txt"_s + einheiten[i]);
-    feld->setAccessibleName(beschriftungen[i]);
+    feld->setObjectName(u"txt"_s + einheit);
+    feld->setAccessibleName(beschriftung);
     feld->setAlignment(Qt::AlignRight);
     MindestensBreit(*feld, 16);
     feld->VorzeichenErlauben(Leistungseinheit{i} != Leistungseinheit::Watt);
-    auto* label = new QLabel(beschriftungen[i], rhmLeistung);
-    label->setObjectName(u"lbl"_s + einheiten[i]);
+    auto* label = new QLabel(beschriftung, rhmLeistung);
+    label->setObjectName(u"lbl"_s + einheit);
     label->setBuddy(feld);
     gitter->addWidget(label, int(i), 0);
     gitter->addWidget(feld, int(i), 1);
@@ -172,9 +178,7 @@ Meldungen frmLstg::Umwandeln(Zahlenfeld& feld) {
     case Umrechnungsergebnis::Leer:
       break;
     case Umrechnungsergebnis::Umgerechnet:
-      for (std::size_t i = 0; i < felder_.size(); ++i) {
-        if (i != quelle) felder_[i]->setText(QString::fromStdString(umrechnung.texte[i]));
-      }
+      Umgerechnet(umrechnung, quelle);
       break;
     case Umrechnungsergebnis::ZuGross:
       return Abgelehnt("Der eingegebene Wert ist zu groß\n10 Mega Watt = 70 dBW oder 100 dBm");
@@ -182,6 +186,17 @@ Meldungen frmLstg::Umwandeln(Zahlenfeld& feld) {
       return Abgelehnt("Der eingegebene Wert muß größer Null sein");
   }
   return {};
+}
+
+void frmLstg::Umgerechnet(const Leistungsumrechnung& umrechnung, std::size_t quelle) {
+  QStringList texte;
+  for (std::size_t i = 0; i < felder_.size(); ++i) {
+    if (i == quelle) continue;
+    const QString text = QString::fromStdString(umrechnung.texte[i]);
+    felder_[i]->setText(text);
+    texte << Feldarten[i].beschriftung.toString() + u' ' + text;
+  }
+  ansage_->Sagen(texte);
 }
 
 void frmLstg::Leeren() {

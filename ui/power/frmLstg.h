@@ -8,8 +8,10 @@
 namespace vesk {
 
 class Ablauf;
+class Ansage;
 class Signalton;
 class Zahlenfeld;
+struct Leistungsumrechnung;
 
 /// Converts a power between dBm, dBW and watt. It stands by itself: what is typed here belongs to no station.
 class frmLstg : public QDialog {
@@ -32,10 +34,12 @@ class frmLstg : public QDialog {
   bool TasteUnten(Zahlenfeld& feld, int taste);
   Handlung Umwandelnd(Zahlenfeld& feld);
   Meldungen Umwandeln(Zahlenfeld& feld);
+  void Umgerechnet(const Leistungsumrechnung& umrechnung, std::size_t quelle);
   void Leeren();
 
   Ablauf& ablauf_;
   char trenner_;
+  Ansage* ansage_;
   std::array<Zahlenfeld*, 3> felder_{};  ///< by Leistungseinheit
   Zahlenfeld* inArbeit_ = nullptr;
   bool ergebnisGezeigt_ = false;     ///< the next key starts a new value

@@ -79,6 +79,7 @@ QColor Grundfarbe(Pruefmarke marke) {
 
 frmUser::frmUser(Ablauf& ablauf, Signalton& ton, QWidget* eltern) : QDialog(eltern), ablauf_(ablauf) {
   setObjectName(u"frmUser"_s);
+  setProperty(HilfekontextEigenschaft, 4001);
   setModal(true);
   setWindowTitle(u"Persönliche Daten "_s);
   FelderAnlegen(ton);
@@ -129,7 +130,10 @@ void frmUser::Zeigen(const Station& station) {
   // An emptied form is filled in from its beginning.
   if (!leer && station.benutzer == Benutzer()) felder_[0]->setFocus();
   for (std::size_t i = 0; i < felder_.size(); ++i) {
+    const bool betretenLeer = felder_[i]->hasFocus() && felder_[i]->text().isEmpty();
     Schreiben(*felder_[i], station.benutzer.*Benutzerfelder[i]);
+    // What the callsign says of the class comes when the cursor is there already.
+    if (betretenLeer) felder_[i]->selectAll();
     if (Pflichtfelder[i] == Pflicht::Nein) continue;
     Faerben(*felder_[i], Grundfarbe(station.benutzermarken[i]));
     felder_[i]->setPlaceholderText(u"(Pflichtangabe)"_s);

@@ -237,7 +237,7 @@ QString Tip(frmTip& fenster) {
 }
 
 TEST(FrmTip, NaechsterTipGehtReihumUndWeiterBeimNaechstenMal) {
-  skript::Speicher speicher;
+  Merkspeicher speicher;
   frmTip fenster(speicher, {"eins", "<b>zwölf</b>", "drei"});
   EXPECT_EQ(Tip(fenster), u"eins");
   for (const QString& tip : {u"<b>zwölf</b>"_s, u"drei"_s, u"eins"_s}) {
@@ -252,7 +252,7 @@ TEST(FrmTip, NaechsterTipGehtReihumUndWeiterBeimNaechstenMal) {
 }
 
 TEST(FrmTip, KaestchenStehtImSpeicherUndUnsinnSchadetNicht) {
-  skript::Speicher speicher;
+  Merkspeicher speicher;
   for (const QString& wert : {u"0"_s, u"1"_s}) {
     frmTip fenster(speicher, {});
     EXPECT_EQ(Tip(fenster), u"Keine Tips gefunden.");

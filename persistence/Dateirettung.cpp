@@ -1,0 +1,84 @@
+#include <system_error>
+
+#include "engine/Version.h"
+#include "persistence/Dateiablauf.h"
+#include "persistence/Pfade.h"
+#include "persistence/Winkelablauf.h"
+#include "station/Winkel.h"
+
+namespace vesk {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Rueckfrage(const Rettung::Fund& fund) {
+  const std::string von =
+      fund.datei.empty() ? "für ein neues Rufzeichen" : "an " + PfadAlsUtf8(fund.datei.filename());
+  const std::string anfang = "Das Programm wurde nicht ordentlich beendet. Es gibt ";
+  const std::string tabelle = "eine nicht gespeicherte Winkeltabelle";
+  if (fund.inhalt.user.empty()) return anfang + tabelle + ".\nSoll sie zurückgeholt werden?";
+  return anfang + "ungesicherte Änderungen " + von + (fund.inhalt.winkel.empty() ? "" : " und " + tabelle) +
+         ".\nSollen sie zurückgeholt werden?";
+}
+
+}  // namespace
+
+void Dateiablauf::RettungAnbieten() {
+  const Vorgang vorgang(*this);
+  if (!vorgang) return;
+  for (const Rettung::Fund& fund : Rettung::Suchen(PfadAusUtf8(station_.ProgrammVerzeichnis))) {
+    const Hinweis frage{std::string(Produktname), Rueckfrage(fund), Knoepfe::JaNein, Symbol::Frage,
+                        Antwort::Ja};
+    const Antwort antwort = rueckfragen_.Fragen(frage);
+    if (antwort == Antwort::Keine) return;
+    if (antwort == Antwort::Ja) {
+      Zurueckholen(fund);
+      return;
+    }
+    std::error_code egal;
+    fs::remove(fund.pfad, egal);
+  }
+}
+
+void Dateiablauf::Zurueckholen(const Rettung::Fund& fund) {
+  if (!fund.inhalt.user.empty()) UserZurueckholen(fund);
+  if (!fund.inhalt.winkel.empty()) {
+    station_.winkel.datei = PfadAlsUtf8(fund.inhalt.winkeldatei);
+    WinkelZeigen(station_, WinkelLesen(fund.inhalt.winkel));
+    station_.winkel.dateiGelesen = false;
+    station_.winkel.bearbeitet = true;
+  }
+  rettung_.Fortsetzen(fund);
+}
+
+void Dateiablauf::UserZurueckholen(const Rettung::Fund& fund) {
+  if (!fund.datei.empty() && fund.datei != WirklicherPfad(Pfad())) {
+    DateiWechseln(fund.datei);
+    Leeren();
+    Einlesen(false);
+  }
+  Leeren();
+  BytesLesen(fund.inhalt.user);
+  station_.neuesRufzeichen = fund.datei.empty();
+  station_.UserGeaendert = true;
+  station_.titelGesetzt = true;
+  std::error_code egal;
+  alteFassungNoetig_ = !fund.datei.empty() && fs::exists(Pfad(), egal);
+}
+
+bool Dateiablauf::RettungSichern() {
+  return !laeuft_ && !beendet_ && RettungErneuern();
+}
+
+bool Dateiablauf::RettungErneuern() {
+  Rettung::Inhalt inhalt{UserDateiSchreiben(station_)};
+  if (WinkelUngesichert(station_)) {
+    inhalt.winkel = WinkelSchreiben(WinkeldatenDerSeite(station_));
+    inhalt.winkeldatei = PfadAusUtf8(station_.winkel.datei);
+  }
+  return rettung_.Sichern(PfadAusUtf8(station_.ProgrammVerzeichnis),
+                          station_.neuesRufzeichen ? fs::path() : Pfad(), inhalt);
+}
+
+}  // namespace vesk

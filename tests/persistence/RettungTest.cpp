@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include "persistence/Winkelablauf.h"
+#include "station/Winkel.h"
+#include "tests/persistence/Programmlauf.h"
+
+namespace vesk {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct RettungTest : DateiablaufTest {
+  std::vector<fs::path> Kopien() const {
+    std::vector<fs::path> kopien;
+    for (const auto& eintrag : fs::directory_iterator(ordner.pfad)) {
+      if (eintrag.path().extension() == ".rettung") kopien.push_back(eintrag.path());
+    }
+    return kopien;
+  }
+  /// A program that dies with `name` typed and not saved.
+  void Abstuerzen(const fs::path& datei, const std::string& name) const {
+    Lauf lauf(ordner.pfad);
+    if (datei != user) lauf.SpeichernUnter(datei);
+    lauf.Aendern(name);
+    lauf.ablauf.RettungSichern();
+  }
+  /// The next one; `fragen`: what it offers, and the answer.
+  using Fragen = std::vector<std::pair<std::string, Antwort>>;
+  static void Anbieten(Lauf& lauf, const Fragen& fragen) {
+    for (const auto& [teil, antwort] : fragen) lauf.fragen.Erwarten("Vesk", teil, antwort);
+    lauf.ablauf.RettungAnbieten();
+    lauf.fragen.AllesGezeigt();
+  }
+};
+
+TEST_F(RettungTest, KommtInDieDateiDieSieMeint) {
+  std::error_code keineLinks;
+  fs::create_directory_symlink(anderswo.pfad, ordner / "weg", keineLinks);
+  Abstuerzen((keineLinks ? anderswo.pfad : ordner / "weg") / "user.dat", "dort");
+  fs::remove(ordner / "weg");
+  Abstuerzen(user, "hier");
+  ASSERT_EQ(Kopien().size(), 2U) << "two files of one name";
+  const fs::path dortige = anderswo / "user.dat";
+  for (const fs::path& kopie : Kopien()) {
+    const bool dort = Inhalt(kopie).find("dort") != std::string::npos;
+    fs::last_write_time(kopie, fs::last_write_time(dortige) + (dort ? 2min : 1min));
+  }
+  {
+    Lauf lauf(ordner.pfad);
+    Anbieten(lauf, {{"ungesicherte Änderungen an user.dat", Antwort::Ja}});
+    EXPECT_EQ(lauf.station.benutzer.Name, "dort") << "the newest first";
+    EXPECT_EQ(Kopien().size(), 2U) << "a second crash loses nothing either";
+    lauf.ablauf.UserSpeichern();
+    EXPECT_EQ(Kopien().size(), 1U) << "safe now";
+  }
+  EXPECT_EQ(NameIn(dortige), "dort");
+  EXPECT_EQ(NameIn(anderswo / "user-alt.dat"), "eins") << "what was replaced";
+  EXPECT_EQ(NameIn(user), "eins");
+  Lauf lauf(ordner.pfad);
+  Anbieten(lauf, {{"user.dat", Antwort::Ja}});
+  EXPECT_EQ(lauf.station.UserVerzeichnis, PfadZumZeigen(ordner.pfad));
+  lauf.ablauf.UserSpeichern();
+  EXPECT_EQ(NameIn(user) + NameIn(ordner / "user-alt.dat"), "hiereins");
+}
+
+TEST_F(RettungTest, EineNeuereDateiGilt) {
+  for (const std::string gespeichert : {"getippt", "später"}) {
+    Abstuerzen(anderswo / "dl1.dat", "getippt");
+    Anlegen(anderswo / "dl1.dat", MusterMit(gespeichert));
+    fs::last_write_time(Kopien().at(0), fs::last_write_time(anderswo / "dl1.dat") - 1min);
+    Lauf lauf(ordner.pfad);
+    Anbieten(lauf, {});
+    EXPECT_TRUE(Kopien().empty());
+    EXPECT_EQ(fs::exists(anderswo / "dl1-alt.dat"), gespeichert == "später");
+  }
+  EXPECT_EQ(NameIn(anderswo / "dl1-alt.dat"), "getippt");
+}
+
+TEST_F(RettungTest, ZweiProgrammeAnEinerDatei) {
+  Lauf dritter(ordner.pfad);
+  {
+    Lauf erster(ordner.pfad, "bereits in einem anderen Vesk geöffnet");
+    erster.Aendern("erster");
+    erster.ablauf.RettungSichern();
+    Lauf zweiter(ordner.pfad, "bereits in einem anderen Vesk geöffnet");
+    Anbieten(zweiter, {});
+    zweiter.Aendern("zweiter");
+    zweiter.ablauf.RettungSichern();
+    EXPECT_EQ(Kopien().size(), 2U);
+    Anbieten(dritter, {});
+  }
+  Anbieten(dritter, {{"user.dat", Antwort::Nein}, {"user.dat", Antwort::Ja}});
+  EXPECT_EQ(Kopien().size(), 1U);
+}
+
+/// A kill may come at any moment: the copy taken up stays until the one that takes its place stands.
+TEST_F(RettungTest, DieAlteKopieGehtErstNachDerNeuen) {
+  Abstuerzen(user, "getippt");
+  Lauf lauf(ordner.pfad);
+  Anbieten(lauf, {{"user.dat", Antwort::Ja}});
+  const fs::path alte = Kopien().at(0);
+  lauf.station.UserDatei = "fort/user.dat";
+  lauf.Aendern("weiter");
+  lauf.station.ProgrammVerzeichnis = PfadAlsUtf8(ordner / "fehlt");
+  lauf.ablauf.RettungSichern();
+  EXPECT_EQ(Kopien(), std::vector{alte});
+  lauf.station.ProgrammVerzeichnis = PfadAlsUtf8(ordner.pfad);
+  lauf.ablauf.RettungSichern();
+  EXPECT_TRUE(Kopien().size() == 1 && Kopien()[0] != alte);
+}
+
+TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
+  const fs::path datei = ordner / "h-b.ang";
+  {
+    Lauf lauf(ordner.pfad);
+    Station& s = lauf.station;
+    s.winkel.datei = PfadAlsUtf8(datei);
+    WinkelGetippt(s, lauf.kataloge, Winkelfeld::Antenne, "Quad");
+    WinkeldaempfungGetippt(s, lauf.kataloge, 3, "7.5");
+    lauf.ablauf.RettungSichern();
+    lauf.Speichern("gesichert");
+    EXPECT_EQ(Kopien().size(), 1U) << "the table is still in no file";
+    lauf.fragen.Erwarten("Vesk", "Die Winkeltabelle wurde geändert und nicht gespeichert.", Antwort::Nein);
+    EXPECT_FALSE(lauf.ablauf.Beenden());
+  }
+  Anlegen(datei, "[andere]");
+  Lauf lauf(ordner.pfad);
+  Anbieten(lauf, {{"Es gibt eine nicht gespeicherte Winkeltabelle.\nSoll sie", Antwort::Ja}});
+  Station& s = lauf.station;
+  EXPECT_EQ(s.winkel.antenne + s.Datenblattspalten[0].Winkel[3] + s.benutzer.Name, "Quad7.5gesichert");
+  EXPECT_FALSE(s.UserGeaendert);
+  lauf.fragen.Erwarten("Winkel-Datei speichern", "h-b.ang gibt es bereits.", Antwort::Ja);
+  WinkelSpeichern(s, lauf.fragen);
+  lauf.ablauf.RettungSichern();
+  EXPECT_TRUE(Kopien().empty());
+  WinkelGetippt(s, lauf.kataloge, Winkelfeld::Antenne, "Beam");
+  s.Datenblattspalten[2].Winkel = s.Datenblattspalten[0].Winkel;
+  s.Zellen[Zellenindex(2, ZeileAntenne)] = "Beam";
+  EXPECT_TRUE(lauf.ablauf.Beenden()) << "a table that stands in a column is saved with it";
+}
+
+}  // namespace
+}  // namespace vesk
