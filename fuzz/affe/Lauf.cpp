@@ -1,0 +1,75 @@
+#include "fuzz/affe/Lauf.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include "app/Programm.h"
+#include "fuzz/affe/Affe.h"
+#include "fuzz/affe/Buehne.h"
+#include "fuzz/affe/Pruefung.h"
+#include "persistence/UserDatei.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vesk::affe {
+
+namespace {
+
+/// What a program that died had in its user's data and not in their file.
+using Nachlass = std::optional<std::string>;
+
+/// One start of the program up to its end, its death, or the last event.
+QString EinProgramm(Zufall& zufall, Ordner& ordner, Buehne& buehne, int ereignisse, Nachlass& nachlass,
+                    Zaehler& zaehler) {
+  const Verzeichnisse verzeichnisse{ordner.Pfad(), QStringLiteral(VESK_DATEN)};
+  MitgelieferteKopieren(verzeichnisse, buehne.speicher);
+  Station station;
+  Programm programm(station, buehne.plattform, verzeichnisse);
+  bool beendet = false;
+  QObject::connect(&programm, &Programm::beendet, &programm, [&] { beendet = true; });
+  buehne.boxen.zurueckholen = nachlass.has_value();
+  programm.Starten();
+  if (nachlass && UserDateiSchreiben(station) != *nachlass) return u"Was vor dem Tod getippt war, fehlt."_s;
+  nachlass.reset();
+  ++zaehler.programme;
+  Affe affe(zufall, ordner);
+  const int ende = zaehler.ereignisse + 20 + static_cast<int>(zufall(200));
+  while (!beendet && zaehler.ereignisse < ereignisse) {
+    if (zaehler.ereignisse >= ende) {
+      const bool tod = zufall.Einmal(3);
+      Schreiben(tod ? u"Tod"_s : u"Ende"_s);
+      if (tod) {
+        programm.RettungSichern();
+        if (station.UserGeaendert) nachlass = UserDateiSchreiben(station);
+        return {};
+      }
+      programm.Hauptfenster().close();
+      if (beendet) return {};
+    }
+    affe.Handeln();
+    QCoreApplication::processEvents();
+    ++zaehler.ereignisse;
+    if (const QString fehler = Pruefen(station, zaehler.aktuell); !fehler.isEmpty()) return fehler;
+  }
+  return {};
+}
+
+}  // namespace
+
+QString Laufen(unsigned saat, int ereignisse, Zaehler& zaehler) {
+  Zufall zufall(saat);
+  Ordner ordner(zufall);
+  QDir().mkpath(ordner.Pfad());
+  Buehne buehne(zufall, ordner);
+  Nachlass nachlass;
+  while (zaehler.ereignisse < ereignisse) {
+    Schreiben(u"Start"_s);
+    if (const QString fehler = EinProgramm(zufall, ordner, buehne, ereignisse, nachlass, zaehler);
+        !fehler.isEmpty())
+      return fehler;
+    if (!nachlass) ordner.Beschaedigen();
+  }
+  return {};
+}
+
+}  // namespace vesk::affe

@@ -1,0 +1,27 @@
+#pragma once
+#include <functional>
+#include <vector>
+
+#include "fuzz/ausfall/Buehne.h"
+
+/// The ways by which the program writes files.
+namespace vesk::ausfall {
+
+struct Auftrag {
+  const char* name;
+  std::vector<QString> ziele;  ///< files that are whole before and afterwards
+  /// Prepares the directory beside the catalogues and the file of an earlier run.
+  std::function<void(const QString& verzeichnis)> vorher;
+  /// What writes; calls fail meanwhile. The program has started and text is typed.
+  std::function<void(Lauf& lauf, const QString& verzeichnis)> tun;
+  /// Whether the program, started anew after a crash, has what was typed.
+  std::function<bool(const Station& danach)> bewahrt;
+  bool meldet = true;      ///< a failure is told
+  bool start = false;      ///< what writes is the start itself; nothing is typed
+  bool altBleibt = false;  ///< what stood in the last file remains under another name
+};
+
+inline constexpr const char* Getippt = "Anna";
+std::vector<Auftrag> Auftraege();
+
+}  // namespace vesk::ausfall
