@@ -45,6 +45,7 @@ std::string ZuGross(std::size_t hoechstens) {
 
 Gelesen DateiLesen(const fs::path& pfad, std::size_t hoechstens) try {
   const Deskriptor datei = ZumLesenOeffnen(pfad);
+  if (!datei) return Lesefehler(ENOENT);
   // One byte more than the size shows that the end has been reached, or that the file goes on.
   const auto groesse = static_cast<std::size_t>(std::min<std::uintmax_t>(Groesse(datei), hoechstens));
   Gelesen ergebnis{Lesestatus::Gelesen, std::string(groesse + 1, '\0'), {}};
@@ -81,6 +82,7 @@ Fehlergrund DateiSchreiben(const fs::path& pfad, std::string_view bytes, const f
 Fehlergrund DateiKopieren(const fs::path& von, const fs::path& nach) {
   return Versuchen([&] {
     const Deskriptor quelle = ZumLesenOeffnen(von);
+    if (!quelle) throw std::system_error(ENOENT, std::generic_category());
     Neufassung neu(nach, von);
     std::array<char, 65536> puffer{};
     while (const std::size_t anzahl = Lesen(quelle, puffer.data(), puffer.size())) {

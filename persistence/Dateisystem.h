@@ -31,7 +31,7 @@ class Deskriptor {
   int nummer_ = -1;
 };
 
-/// A regular file. Never waits, whatever stands under that name.
+/// A regular file; none when nothing stands under that name. Never waits, whatever stands there.
 Deskriptor ZumLesenOeffnen(const std::filesystem::path& pfad);
 /// A file for writing that was not there before; none when anything stands under that name. `vertraulich`:
 /// for its owner alone.

@@ -28,6 +28,7 @@ Deskriptor::~Deskriptor() {
 Deskriptor ZumLesenOeffnen(const fs::path& pfad) {
   // Without O_NONBLOCK a pipe under that name would wait for its writer.
   Deskriptor datei(open(pfad.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  if (!datei && errno == ENOENT) return datei;
   struct stat angaben {};
   if (!datei || fstat(*datei, &angaben) != 0) Scheitern();
   if (S_ISDIR(angaben.st_mode)) Scheitern(EISDIR);

@@ -107,6 +107,7 @@ Deskriptor::~Deskriptor() {
 
 Deskriptor ZumLesenOeffnen(const fs::path& pfad) {
   Deskriptor datei = Oeffnen(pfad, GENERIC_READ, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+  if (!datei && GetLastError() == ERROR_FILE_NOT_FOUND) return datei;
   if (!datei) OeffnenGescheitert(pfad);
   if (GetFileType(Griff(datei)) != FILE_TYPE_DISK) Scheitern(ENODEV);
   return datei;
