@@ -65,7 +65,7 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   void Hinzeigen(const Papierort& ort) override;
 
  Q_SIGNALS:
-  /// The event loop may end with this exit code: 0, or 1 when not everything is saved in its file.
+  /// The event loop may end with this exit code: 0, or 1 when something is kept as for a crash.
   void beendet(int rueckgabe);
 
  private:

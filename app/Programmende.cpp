@@ -4,7 +4,6 @@
 #include "app/Desktoplage.h"
 #include "app/Programm.h"
 #include "platform/QtPlattform.h"
-#include "station/Winkel.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,14 +45,15 @@ void Programm::Endeschritt() {
   // What has opened a dialog comes to its end first; saving may open another one.
   if (DialogeAbbrechen() || inHandlung_ || beendet_ || dateien_.Beschaeftigt()) return;
   dateien_.UserSpeichern();
-  if (!dateien_.RettungSichern()) {
+  const Rettung::Stand rest = dateien_.RettungSichern();
+  if (rest == Rettung::Stand::Gescheitert) {
     endetakt_.stop();
     plattform_.boxen.Zeigen(Fehlermeldung(
         "Das Programm sollte beendet werden. Ihre Änderungen lassen sich aber nicht sichern; es läuft "
         "deshalb weiter.\nBitte speichern Sie mit „Speichern unter“ an einem anderen Ort."));
     return;
   }
-  Schliessen(station_.UserGeaendert || WinkelUngesichert(station_) ? 1 : 0);
+  Schliessen(rest == Rettung::Stand::Gesichert ? 1 : 0);
 }
 
 void Programm::Schliessen(int rueckgabe) {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -16,6 +17,9 @@ using namespace Qt::StringLiterals;
 namespace vesk {
 
 namespace {
+
+/// The toolkit puts this character in the place of bytes that are no text, which names another directory.
+constexpr QChar Ersatz = QChar::ReplacementCharacter;
 
 bool Tragbar(const QString& anwendung) {
   const QDir verzeichnis(anwendung);
@@ -40,10 +44,13 @@ QString Datenverzeichnis(const QString& anwendung) {
 
 Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& anwendung) {
   Verzeichnisse v{Programmverzeichnis(gewuenscht, anwendung), Datenverzeichnis(anwendung)};
-  // The toolkit puts this character in the place of bytes that are no text.
-  const QChar ersatz = QChar::ReplacementCharacter;
-  if (v.programm.contains(ersatz) && !gewuenscht.contains(ersatz)) v.programm.clear();
+  if (v.programm.contains(Ersatz) && !gewuenscht.contains(Ersatz)) v.programm.clear();
   return v;
+}
+
+void MerkspeicherBestimmen(const Verzeichnisse& verzeichnisse) {
+  if (!QSettings().fileName().contains(Ersatz)) return;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, verzeichnisse.programm);
 }
 
 std::string MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher) {

@@ -18,6 +18,9 @@ struct Verzeichnisse {
 /// empty when its name cannot be told as a text: another directory must not take its place.
 Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& anwendung);
 
+/// Where the user's own directory cannot be told as a text, what is remembered goes to `programm`.
+void MerkspeicherBestimmen(const Verzeichnisse& verzeichnisse);
+
 /// Creates the program directory if it is missing and copies the shipped catalogues and tips there, so that
 /// the user may edit them. A file is copied once: one that the user has deleted stays deleted. Returns why it
 /// was not possible; empty: it was.

@@ -46,6 +46,7 @@ int FensterOeffnen(int anzahl, char** argumente, const vesk::Aufruf& aufruf) {
         "Bitte geben Sie mit --verzeichnis ein anderes an."));
     return 1;
   }
+  vesk::MerkspeicherBestimmen(verzeichnisse);
   verzeichnisse.hindernis = vesk::MitgelieferteKopieren(verzeichnisse, desktop.speicher);
   vesk::Station station;
   vesk::Programm programm(station, desktop.plattform, verzeichnisse);

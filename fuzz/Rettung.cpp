@@ -100,7 +100,7 @@ void RundreisePruefen(Vorrat& vorrat, const Ordner& ordner) {
   const fs::path datei = vorrat.Ja() ? ordner / "user.dat" : fs::path();
   Rettung::Inhalt inhalt;
   inhalt.winkel = vorrat.Zeile();
-  inhalt.winkeldatei = vorrat.Zeile();
+  inhalt.winkeldatei = fs::path(vorrat.Zeile()) / "h-b.ang";
   inhalt.user = vorrat.Rest();
   {
     Rettung rettung;

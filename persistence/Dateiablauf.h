@@ -41,8 +41,8 @@ class Dateiablauf {
   bool Beschaeftigt() const { return laeuft_; }
   /// Saves. True: the program may end; otherwise the user wants to go on.
   bool Beenden();
-  /// Every few seconds: keeps what is not saved yet for the case of a crash. False: it is kept nowhere.
-  bool RettungSichern();
+  /// Every few seconds: keeps what is not saved yet for the case of a crash.
+  Rettung::Stand RettungSichern();
 
  private:
   class Vorgang;
@@ -71,7 +71,7 @@ class Dateiablauf {
   bool InsProgrammverzeichnis(const std::filesystem::path& gewaehlt);
   void Zurueckholen(const Rettung::Fund& fund);
   void UserZurueckholen(const Rettung::Fund& fund);
-  bool RettungErneuern();
+  Rettung::Stand RettungErneuern();
 
   bool Sichern();
   void EingabenAbschliessen();

@@ -36,8 +36,7 @@ void Dateiablauf::RettungAnbieten() {
       Zurueckholen(fund);
       return;
     }
-    std::error_code egal;
-    fs::remove(fund.pfad, egal);
+    Rettung::Verwerfen(fund.pfad);
   }
 }
 
@@ -67,11 +66,11 @@ void Dateiablauf::UserZurueckholen(const Rettung::Fund& fund) {
   alteFassungNoetig_ = !fund.datei.empty() && fs::exists(Pfad(), egal);
 }
 
-bool Dateiablauf::RettungSichern() {
-  return !laeuft_ && !beendet_ && RettungErneuern();
+Rettung::Stand Dateiablauf::RettungSichern() {
+  return laeuft_ || beendet_ ? Rettung::Stand::Gescheitert : RettungErneuern();
 }
 
-bool Dateiablauf::RettungErneuern() {
+Rettung::Stand Dateiablauf::RettungErneuern() {
   Rettung::Inhalt inhalt{UserDateiSchreiben(station_)};
   if (WinkelUngesichert(station_)) {
     inhalt.winkel = WinkelSchreiben(WinkeldatenDerSeite(station_));

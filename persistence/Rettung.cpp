@@ -13,6 +13,8 @@
 #include "persistence/Dateigrenzen.h"
 #include "persistence/Neufassung.h"
 #include "persistence/Pfade.h"
+#include "persistence/UserDatei.h"
+#include "station/Text.h"
 
 namespace vesk {
 
@@ -52,6 +54,14 @@ std::optional<std::string> TeilLesen(std::string_view& bytes) {
   return teil;
 }
 
+bool Heisst(const fs::path& datei, std::string_view endung) {
+  return Kleinbuchstaben(PfadAlsUtf8(datei.extension())) == endung;
+}
+
+bool IstUserDatei(const Gelesen& datei) {
+  return !WarumUnbrauchbar({}, datei, false);
+}
+
 std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
   std::error_code egal;
   if (pfad.filename().native().front() != '.' || pfad.extension() != Endung) return std::nullopt;
@@ -65,7 +75,13 @@ std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
     if (!teil) return std::nullopt;
     ziel = std::move(*teil);
   }
-  return Rettung::Fund{pfad, PfadAusUtf8(teile[0]), {teile[1], teile[2], PfadAusUtf8(teile[3])}};
+  Rettung::Fund fund{pfad, PfadAusUtf8(teile[0]), {teile[1], teile[2], PfadAusUtf8(teile[3])}};
+  // What a copy names is written to, and whoever has put it here has chosen that: other files are not
+  // believed.
+  const bool user = Heisst(fund.datei, ".dat") || IstUserDatei(DateiLesen(fund.datei, grenzen::UserDatei));
+  if (!user) fund.datei.clear();
+  if (!Heisst(fund.inhalt.winkeldatei, ".ang")) fund.inhalt.winkeldatei.clear();
+  return fund;
 }
 
 /// Leaves in a find what the user needs to be asked about, and removes one that is nothing else.
@@ -73,7 +89,7 @@ bool Hinfaellig(Rettung::Fund& fund) {
   const Gelesen datei = DateiLesen(fund.datei, grenzen::UserDatei);
   if (datei.status != Lesestatus::Gelesen) return false;
   if (datei.bytes != fund.inhalt.user) {
-    if (Aenderungszeit(fund.pfad) > Aenderungszeit(fund.datei)) return false;
+    if (Aenderungszeit(fund.pfad) > Aenderungszeit(fund.datei) || !IstUserDatei(datei)) return false;
     // Where there is no room now, another time.
     if (DateiSchreiben(FreierAltname(fund.datei), fund.inhalt.user, fund.datei)) return true;
   }
@@ -100,26 +116,27 @@ Ausgang Schreiben(const fs::path& pfad, const fs::path& vorbild, const std::stri
   return Ausgang::Geschrieben;
 } catch (const std::system_error& fehler) {
   const int nummer = fehler.code().value();
-  const bool fremdes = nummer == EEXIST || nummer == EISDIR || nummer == ENODEV;
+  // Another user's copy may not be replaced (EACCES).
+  const bool fremdes = nummer == EEXIST || nummer == EISDIR || nummer == ENODEV || nummer == EACCES;
   return fremdes ? Ausgang::Vergeben : Ausgang::Gescheitert;
 }
 
 }  // namespace
 
-bool Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, const Inhalt& inhalt) {
+Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, const Inhalt& inhalt) {
   if (inhalt.user == sicher_ && inhalt.winkel.empty()) {
     Aufgeben();
-    return true;
+    return Stand::Unnoetig;
   }
   const fs::path wirklich = datei.empty() ? fs::path() : WirklicherPfad(datei);
   const bool dieselbe = !pfad_.empty() && wirklich == datei_;
-  if (dieselbe && inhalt == zuletzt_) return true;
+  if (dieselbe && inhalt == zuletzt_) return Stand::Gesichert;
   const std::string bytes = Bytes(wirklich, inhalt);
   const bool erneuert = dieselbe && Schreiben(pfad_, datei_, bytes, sperre_) == Ausgang::Geschrieben;
   // One that cannot be written is no reason to disturb: saving itself tells.
-  if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return false;
+  if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return Stand::Gescheitert;
   zuletzt_ = inhalt;
-  return true;
+  return Stand::Gesichert;
 }
 
 /// The former copy goes when another one stands.
@@ -145,6 +162,13 @@ void Rettung::Fortsetzen(const Fund& fund) {
   pfad_ = fund.pfad;
   datei_ = fund.datei;
   zuletzt_ = {};
+}
+
+void Rettung::Verwerfen(const fs::path& kopie) {
+  Dateisperre sperre;
+  sperre.Nehmen(kopie);
+  std::error_code egal;
+  if (sperre.Gilt(kopie)) fs::remove(kopie, egal);
 }
 
 void Rettung::Aufgeben() {

@@ -26,10 +26,10 @@ class Rettung {
 
   /// `user` is what stands safely in the file, or what nobody will miss.
   void Gesichert(std::string user) { sicher_ = std::move(user); }
-  /// Keeps for the user's file `datei` what is not safe; when all is, no copy is needed. False: it could not
-  /// be written.
-  bool Sichern(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei,
-               const Inhalt& inhalt);
+  enum class Stand { Unnoetig, Gesichert, Gescheitert };
+  /// Keeps for the user's file `datei` what is not safe; when all is, no copy is needed.
+  Stand Sichern(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei,
+                const Inhalt& inhalt);
   /// What was found is worked on again; its copy stays until it is safe or has been renewed.
   void Fortsetzen(const Fund& fund);
   /// Nobody will miss anything.
@@ -38,6 +38,8 @@ class Rettung {
   /// Copies in `verzeichnis` that no running program holds and whose files do not say the same, the newest
   /// first. Where a later saving has overtaken one, its user's data are put beside the file as "…-alt.dat".
   static std::vector<Fund> Suchen(const std::filesystem::path& verzeichnis);
+  /// Removes a copy that nobody wants, unless another program has taken it up meanwhile.
+  static void Verwerfen(const std::filesystem::path& kopie);
 
  private:
   bool Anlegen(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei,

@@ -109,6 +109,16 @@ TEST_F(Ende, WasOffenStehtWirdAbgebrochenUndAllesGesichert) {
   }
 }
 
+/// A missing file that cannot be made is no change of the user's.
+TEST_F(Ende, OhneAenderungenWirdNichtsAngeboten) {
+  QFile::link(filePath(u"fehlt/user.dat"_s), filePath(u"user.dat"_s));
+  QtMeldungsboxen boxen;
+  Laufend lauf(path(), boxen);
+  lauf.programm.EndeVerlangt();
+  EXPECT_TRUE(lauf.Ende());
+  EXPECT_EQ(lauf.rueckgabe, 0);
+}
+
 TEST_F(Ende, BeimStartBleibtDieRettungskopie) {
   Jasager ja;
   {

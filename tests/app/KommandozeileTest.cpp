@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <filesystem>
 #include <fstream>
@@ -106,6 +107,12 @@ TEST(Verzeichnisse, NamenDieKeinTextSind) {
   std::filesystem::remove(unlesbar);  // the toolkit cannot name it
   EXPECT_EQ(VerzeichnisseBestimmen(u"/tmp/\uFFFD"_s, hier).programm, u"/tmp/\uFFFD"_s)
       << "a name like others";
+  const QString eigener = QDir::homePath() + u"/.config"_s;
+  for (const QString& merkspeicher : {u"/tmp/\uFFFD"_s, eigener}) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, merkspeicher);
+    MerkspeicherBestimmen({u"/programm"_s, {}});
+    EXPECT_TRUE(QSettings().fileName().startsWith(merkspeicher == eigener ? eigener : u"/programm/"_s));
+  }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include <dirent.h>
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <functional>
@@ -83,6 +85,22 @@ TEST_F(HindernisseTest, DieKopieNimmtEinenFreienNamen) {
       fs::remove(Kopie(ordner.pfad));
     }
   }
+}
+
+TEST_F(HindernisseTest, DieKopieEinesAnderenBenutzersSperrtNichts) {
+  Anlegen(ordner / ".user.dat.rettung", "fremd");
+  fs::permissions(ordner / ".user.dat.rettung", fs::perms(0400));
+  const pid_t kind = fork();
+  if (kind == 0) {
+    if (geteuid() == 0 && setuid(65534) != 0) _exit(1);
+    Lauf lauf(ordner.pfad);
+    lauf.Aendern("getippt");
+    lauf.ablauf.RettungSichern();
+    _exit(fs::exists(ordner / ".user.dat-2.rettung") ? 0 : 1);
+  }
+  int zustand = 1;
+  waitpid(kind, &zustand, 0);
+  EXPECT_EQ(zustand, 0);
 }
 
 TEST_F(HindernisseTest, RechteDerDatei) {

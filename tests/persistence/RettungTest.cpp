@@ -76,6 +76,30 @@ TEST_F(RettungTest, EineNeuereDateiGilt) {
   EXPECT_EQ(NameIn(anderswo / "dl1-alt.dat"), "getippt");
 }
 
+/// Whoever can put a copy into the directory has chosen what it names.
+TEST_F(RettungTest, WasKeineUserDateiIstBleibtWieEsIst) {
+  for (const std::string name : {"x.sh", "x.dat"}) {
+    const fs::path fremd = anderswo / name;
+    {
+      Lauf lauf(ordner.pfad);
+      lauf.SpeichernUnter(fremd);
+      lauf.station.winkel.datei = PfadAlsUtf8(fremd);
+      WinkelGetippt(lauf.station, lauf.kataloge, Winkelfeld::Antenne, "Quad");
+      lauf.Aendern("getippt");
+      lauf.ablauf.RettungSichern();
+    }
+    Anlegen(fremd, "fremd");
+    fs::last_write_time(Kopien().at(0), fs::last_write_time(fremd) - 1min);
+    Lauf lauf(ordner.pfad);
+    Anbieten(lauf, {{name == "x.sh" ? "für ein neues Rufzeichen" : "an x.dat", Antwort::Ja}});
+    EXPECT_EQ(lauf.station.benutzer.Name + lauf.station.winkel.datei, "getippt");
+    EXPECT_EQ(Inhalt(fremd), "fremd");
+    EXPECT_EQ(anderswo.Anzahl(), 1) << "nothing beside it";
+    fs::remove(fremd);
+    fs::remove(Kopien().at(0));
+  }
+}
+
 TEST_F(RettungTest, ZweiProgrammeAnEinerDatei) {
   Lauf dritter(ordner.pfad);
   {
@@ -90,7 +114,8 @@ TEST_F(RettungTest, ZweiProgrammeAnEinerDatei) {
     Anbieten(dritter, {});
   }
   Anbieten(dritter, {{"user.dat", Antwort::Nein}, {"user.dat", Antwort::Ja}});
-  EXPECT_EQ(Kopien().size(), 1U);
+  Rettung::Verwerfen(Kopien().at(0));
+  EXPECT_EQ(Kopien().size(), 1U) << "of a program that runs";
 }
 
 /// A kill may come at any moment: the copy taken up stays until the one that takes its place stands.
