@@ -107,7 +107,9 @@ void GleichungPruefen(const Gleichung& gleichung, bool rechenbar, bool gewoehnli
   const double wert = std::strtod(zahl.c_str(), nullptr);
   const double genau = Zahlenwert(gleichung.formel);
   if (!rechenbar) return;
-  Pruefen(std::abs(genau - wert) <= einheit * 1.001 + std::abs(wert) * 1e-12);
+  // Among the smallest singles the next one is further away than the digit that is printed.
+  const double stufe = std::numeric_limits<float>::denorm_min();
+  Pruefen(std::abs(genau - wert) <= einheit * 1.001 + stufe + std::abs(wert) * 1e-12);
   // Fewer digits than the sheet or than three: what is printed is not what the formula gives.
   Pruefen(!gewoehnlich || std::abs(genau - wert) <= std::max(0.0101, std::abs(wert) * 1e-3));
 }

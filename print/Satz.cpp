@@ -72,8 +72,9 @@ void Seitenkopf(Blatt& blatt, Blattformat format, const QString& titel, const QS
   const double platz = rechts.isEmpty() ? satz.width() : satz.width() * Anteil;
   const Schrift gross = Eingepasst(titel, {.punkt = 15, .fett = true}, platz, 9);
   const double grund = satz.top() + 6;
-  blatt.Text({satz.left(), grund}, titel, gross);
-  const double rest = satz.width() - Textbreite(titel, gross) - 8;
+  const QString gekuerzt = Gekuerzt(titel, gross, platz);
+  blatt.Text({satz.left(), grund}, gekuerzt, gross);
+  const double rest = satz.width() - Textbreite(gekuerzt, gross) - 8;
   const Schrift klein{.punkt = 11, .fett = true};
   blatt.Text({satz.right(), grund}, Gekuerzt(rechts, klein, rest), klein, Buendig::Rechts);
   blatt.Linie({satz.left(), grund + 2.5}, {satz.right(), grund + 2.5}, 0.35);
