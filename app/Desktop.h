@@ -1,7 +1,7 @@
 #pragma once
 #include "app/Verzeichnisse.h"
+#include "platform/Druckerlader.h"
 #include "platform/Plattform.h"
-#include "platform/QtDrucker.h"
 #include "platform/QtPlattform.h"
 #include "ui/info/Hilfesystem.h"
 
@@ -16,7 +16,7 @@ struct Desktop {
   QtDateidialoge dialoge;
   QtBenutzerspeicher speicher;
   QtSignalton ton;
-  QtDrucker drucker;
+  Druckerlader drucker;
   QtBetrachter betrachter;
   QtFortschrittsanzeige fortschritt;
   Hilfesystem hilfe;

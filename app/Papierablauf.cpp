@@ -70,8 +70,7 @@ void PapiereDrucken(const Mappe& mappe, Plattform& plattform) {
                          SeiteMalen(mappe, seite, maler, jeMillimeter);
                        }};
   for (std::size_t i = 0; i < Seitenzahl(mappe); ++i) {
-    const bool hoch = Seitenformat(mappe, i) == Blattformat::Hoch;
-    auftrag.seiten.push_back(hoch ? QPageLayout::Portrait : QPageLayout::Landscape);
+    auftrag.seiten.push_back(Seitenlayout(Seitenformat(mappe, i)));
   }
   const Fortschritt fortschritt = plattform.fortschritt.Beginnen(u"Die Seiten werden gedruckt …"_s);
   Sagen(plattform.drucker.Drucken(auftrag, fortschritt), plattform);

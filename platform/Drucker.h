@@ -17,11 +17,11 @@ namespace vesk {
 /// Told before each step of a long work: how many are done, of how many. False: the user wants to end it.
 using Fortschritt = std::function<bool(std::size_t fertig, std::size_t von)>;
 
-/// Pages for the printer, by number from 0, each painted on a whole A4 sheet with so many units to the
+/// Pages for the printer, by number from 0, each painted on a whole sheet with so many units to the
 /// millimetre from its upper left corner.
 struct Druckauftrag {
   QString titel;
-  std::vector<QPageLayout::Orientation> seiten;
+  std::vector<QPageLayout> seiten;
   std::function<void(std::size_t seite, QPainter& maler, double jeMillimeter)> malen;
 };
 

@@ -10,7 +10,10 @@
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QTextDocument>
+#include <type_traits>
 #include <utility>
+
+#include "platform/Druckerlader.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,25 +49,15 @@ Druckausgang Fehlschlag(const QPrinter& drucker) {
   return {Druckausgang::Gescheitert, grund.toStdString()};
 }
 
-}  // namespace
-
-std::optional<Hinweis> Druckmeldung(const Druckausgang& ausgang) {
-  switch (ausgang.art) {
-    case Druckausgang::KeinDrucker:
-      return MitHilfe(
-          {"Drucken",
-           "Es ist kein Drucker eingerichtet.\nSpeichern Sie die Seiten als PDF und drucken Sie sie an "
-           "einem anderen Rechner, oder richten Sie in den Einstellungen Ihres Systems einen Drucker ein."},
-          HilfePapiere);
-    case Druckausgang::Gescheitert:
-      return MitHilfe({"Drucken", ausgang.grund + "\nEs ist nichts oder nicht alles gedruckt."},
-                      HilfePapiere);
-    case Druckausgang::Gedruckt:
-    case Druckausgang::Abgebrochen:
-      break;
-  }
-  return std::nullopt;
+/// What is A4 goes on the paper that the user has chosen. False: the printer does not know the size.
+bool Einlegen(QPrinter& drucker, const QPageLayout& blatt, const QPageSize& gewaehlt) {
+  const bool a4 = blatt.pageSize().id() == QPageSize::A4;
+  const bool bekannt = drucker.setPageSize(a4 ? gewaehlt : blatt.pageSize());
+  drucker.setPageOrientation(blatt.orientation());
+  return a4 || bekannt;
 }
+
+}  // namespace
 
 QtDrucker::QtDrucker(Druckerdialog dialog) : dialog_(std::move(dialog)) {}
 QtDrucker::~QtDrucker() = default;
@@ -100,7 +93,16 @@ Druckausgang QtDrucker::Drucken(const Druckauftrag& auftrag, const Fortschritt& 
   drucker_->setDocName(auftrag.titel);
   drucker_->setFullPage(true);
   const auto [erste, letzte] = Bereich(*drucker_, auftrag.seiten.size());
-  drucker_->setPageOrientation(auftrag.seiten.at(erste));
+  const QPageSize gewaehlt = drucker_->pageLayout().pageSize();
+  for (std::size_t seite = erste; seite <= letzte; ++seite) {
+    if (Einlegen(*drucker_, auftrag.seiten.at(seite), gewaehlt)) continue;
+    drucker_->setPageSize(gewaehlt);
+    return {Druckausgang::Gescheitert,
+            u"Der Drucker „%1“ hat kein Papier der Größe %2; für den Lageplan läßt sich auch A4 wählen."_s
+                .arg(drucker_->printerName(), auftrag.seiten.at(seite).pageSize().name())
+                .toStdString()};
+  }
+  Einlegen(*drucker_, auftrag.seiten.at(erste), gewaehlt);
   QPainter maler;
   if (!maler.begin(drucker_.get())) return Fehlschlag(*drucker_);
   for (std::size_t seite = erste; seite <= letzte; ++seite) {
@@ -109,7 +111,7 @@ Druckausgang QtDrucker::Drucken(const Druckauftrag& auftrag, const Fortschritt& 
       return Druckausgang::Abgebrochen;
     }
     if (seite != erste) {
-      drucker_->setPageOrientation(auftrag.seiten.at(seite));
+      Einlegen(*drucker_, auftrag.seiten.at(seite), gewaehlt);
       if (!drucker_->newPage()) return Fehlschlag(*drucker_);
     }
     auftrag.malen(seite, maler, drucker_->resolution() / 25.4);
@@ -127,3 +129,8 @@ Druckausgang QtDrucker::TextDrucken(const QTextDocument& dokument, const QString
 }
 
 }  // namespace vesk
+
+extern "C" __attribute__((visibility("default"))) vesk::Drucker* vesk_drucker_anlegen() {
+  return new vesk::QtDrucker;
+}
+static_assert(std::is_same_v<decltype(vesk_drucker_anlegen), vesk::Druckeranleger>);

@@ -9,9 +9,9 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QSettings>
 #include <QTimer>
 #include <QUrl>
@@ -26,9 +26,16 @@ namespace vesk {
 
 namespace {
 
+/// Where the last dialog has just led back to, while nobody knows it yet.
+QPointer<QWidget>& Voriges() {
+  static QPointer<QWidget> fenster;
+  return fenster;
+}
+
 /// The window that a box belongs to and stays in front of, also before one is active and beside another
 /// program.
 QWidget* Vordergrund() {
+  if (Voriges()) return Voriges();
   if (QWidget* aktiv = QApplication::activeWindow()) return aktiv;
   const QWidgetList fenster = QApplication::topLevelWidgets();
   const auto offen = std::find_if(fenster.begin(), fenster.end(), [](const QWidget* w) {
@@ -36,6 +43,25 @@ QWidget* Vordergrund() {
   });
   return offen == fenster.end() ? nullptr : *offen;
 }
+
+/// Leads back to the window that was in front before, also after several dialogs in a row.
+class Rueckweg {
+ public:
+  Rueckweg() : vorher_(Vordergrund()) {}
+  ~Rueckweg() {
+    if (!vorher_ || !vorher_->isVisible()) return;
+    vorher_->activateWindow();
+    // The window system tells later; until then the next dialog would take any window for the active one.
+    Voriges() = vorher_;
+    QTimer::singleShot(0, vorher_, [] { Voriges().clear(); });
+  }
+  Q_DISABLE_COPY_MOVE(Rueckweg)
+
+  QWidget* Fenster() const { return vorher_; }
+
+ private:
+  QPointer<QWidget> vorher_;
+};
 
 /// A box that only a key press of its own answers: one held down since before it opened repeats, and its
 /// release answers nothing. A question can only be left by a button, neither by Escape nor by the frame.
@@ -71,8 +97,8 @@ class StrengeBox : public QMessageBox {
   const Tastenuhr& uhr_;
 };
 
-QFileDialog* NeuerDialog(const Dialogwahl& wahl) {
-  auto* dialog = new QFileDialog(Vordergrund(), wahl.titel, wahl.verzeichnis, wahl.filter);
+QFileDialog* NeuerDialog(QWidget* vor, const Dialogwahl& wahl) {
+  auto* dialog = new QFileDialog(vor, wahl.titel, wahl.verzeichnis, wahl.filter);
   dialog->setDefaultSuffix(wahl.endung);
   if (!wahl.vorschlag.isEmpty()) dialog->selectFile(wahl.vorschlag);
   return dialog;
@@ -145,15 +171,8 @@ QtMeldungsboxen::QtMeldungsboxen() {
 
 Antwort QtMeldungsboxen::Zeigen(const Hinweis& box) {
   const bool frage = box.knoepfe == Knoepfe::JaNein;
-  const QPointer<QWidget> vorher = voriges_ ? voriges_.data() : Vordergrund();
-  const auto zurueck = qScopeGuard([&] {
-    if (!vorher || !vorher->isVisible()) return;
-    vorher->activateWindow();
-    // The window system tells later; until then the next box would take any window for the active one.
-    voriges_ = vorher;
-    QTimer::singleShot(0, vorher, [this] { voriges_.clear(); });
-  });
-  StrengeBox fenster(frage, uhr_, vorher);
+  const Rueckweg rueckweg;
+  StrengeBox fenster(frage, uhr_, rueckweg.Fenster());
   fenster.setProperty(HilfekontextEigenschaft, box.hilfe);
   fenster.setWindowTitle(QString::fromStdString(box.titel));
   fenster.setTextFormat(Qt::PlainText);
@@ -174,13 +193,15 @@ Antwort QtMeldungsboxen::Zeigen(const Hinweis& box) {
 }
 
 std::optional<QString> QtDateidialoge::Oeffnen(const Dialogwahl& wahl) {
-  QFileDialog* dialog = NeuerDialog(wahl);
+  const Rueckweg rueckweg;
+  QFileDialog* dialog = NeuerDialog(rueckweg.Fenster(), wahl);
   dialog->setFileMode(QFileDialog::ExistingFile);
   return Ausfuehren(dialog);
 }
 
 std::optional<QString> QtDateidialoge::Speichern(const Dialogwahl& wahl) {
-  QFileDialog* dialog = NeuerDialog(wahl);
+  const Rueckweg rueckweg;
+  QFileDialog* dialog = NeuerDialog(rueckweg.Fenster(), wahl);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   return Ausfuehren(dialog);
 }
@@ -213,10 +234,11 @@ bool QtBetrachter::Oeffnen(const QString& datei) {
 }
 
 Fortschritt QtFortschrittsanzeige::Beginnen(const QString& titel) {
-  auto anzeige = std::make_shared<QProgressDialog>(titel, u"Abbrechen"_s, 0, 0, QApplication::activeWindow());
+  auto rueckweg = std::make_shared<Rueckweg>();
+  auto anzeige = std::make_shared<QProgressDialog>(titel, u"Abbrechen"_s, 0, 0, rueckweg->Fenster());
   anzeige->setWindowModality(Qt::ApplicationModal);
   anzeige->setMinimumDuration(500);  // ms
-  return [anzeige](std::size_t fertig, std::size_t von) {
+  return [rueckweg, anzeige](std::size_t fertig, std::size_t von) {
     anzeige->setMaximum(static_cast<int>(von));
     anzeige->setValue(static_cast<int>(fertig));
     return !anzeige->wasCanceled();

@@ -1,7 +1,6 @@
 #pragma once
 #include <QHash>
 #include <QObject>
-#include <QPointer>
 #include <QWidget>
 
 #include "platform/Plattform.h"
@@ -35,7 +34,6 @@ class QtMeldungsboxen : public Meldungsboxen {
 
  private:
   Tastenuhr uhr_;
-  QPointer<QWidget> voriges_;  ///< where the last box has just led back to, while nobody knows it yet
 };
 
 class QtDateidialoge : public Dateidialoge {

@@ -13,7 +13,6 @@ namespace vesk {
 namespace {
 
 constexpr double MillimeterJePunkt = 25.4 / 72;
-constexpr QSizeF A4{210, 297};
 constexpr double RandLinks = 20;
 constexpr double RandRechts = 12;
 constexpr double RandOben = 12;
@@ -58,8 +57,17 @@ QRectF Einheiten(const QRectF& flaeche) {
 
 }  // namespace
 
+QPageLayout Seitenlayout(Blattformat format) {
+  const bool hoch = format == Blattformat::Hoch || format == Blattformat::HochA3;
+  const bool a4 = format == Blattformat::Hoch || format == Blattformat::Quer;
+  return {QPageSize(a4 ? QPageSize::A4 : QPageSize::A3),
+          hoch ? QPageLayout::Portrait : QPageLayout::Landscape,
+          {},
+          QPageLayout::Millimeter};
+}
+
 QSizeF Blattgroesse(Blattformat format) {
-  return format == Blattformat::Hoch ? A4 : A4.transposed();
+  return Seitenlayout(format).fullRect().size();
 }
 
 QRectF Satzspiegel(Blattformat format) {

@@ -1,5 +1,6 @@
 #pragma once
 #include <QColor>
+#include <QPageLayout>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
@@ -14,8 +15,10 @@ class QPen;
 /// are points; letters are "Arial" or what the system has with the same widths.
 namespace vesk {
 
-enum class Blattformat { Hoch, Quer };  ///< A4
+enum class Blattformat { Hoch, Quer, HochA3, QuerA3 };  ///< without a name of its own: A4
 
+/// For those who feed the paper; without margins.
+QPageLayout Seitenlayout(Blattformat format);
 QSizeF Blattgroesse(Blattformat format);
 /// Where a page's own content may stand: inside the margins, above the footer. The left margin leaves room
 /// for the holes of a file.

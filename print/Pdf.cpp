@@ -2,7 +2,6 @@
 
 #include <QBuffer>
 #include <QLibrary>
-#include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 #include <stdexcept>
@@ -19,24 +18,17 @@ namespace {
 constexpr int Aufloesung = 1200;  // dots per inch
 constexpr double JeMillimeter = Aufloesung / 25.4;
 
-QPageLayout Layout(Blattformat format) {
-  return {QPageSize(QPageSize::A4),
-          format == Blattformat::Hoch ? QPageLayout::Portrait : QPageLayout::Landscape,
-          {},
-          QPageLayout::Millimeter};
-}
-
 bool SeitenSchreiben(const Mappe& mappe, QIODevice& ziel,
                      const std::function<bool(std::size_t, std::size_t)>& fortschritt) {
   QPdfWriter schreiber(&ziel);
   schreiber.setResolution(Aufloesung);
-  schreiber.setPageLayout(Layout(Seitenformat(mappe, 0)));
+  schreiber.setPageLayout(Seitenlayout(Seitenformat(mappe, 0)));
   QPainter maler(&schreiber);
   const std::size_t anzahl = Seitenzahl(mappe);
   for (std::size_t i = 0; i < anzahl; ++i) {
     if (fortschritt && !fortschritt(i, anzahl)) return false;
     if (i > 0) {
-      schreiber.setPageLayout(Layout(Seitenformat(mappe, i)));
+      schreiber.setPageLayout(Seitenlayout(Seitenformat(mappe, i)));
       schreiber.newPage();
     }
     SeiteMalen(mappe, i, maler, JeMillimeter);

@@ -37,7 +37,7 @@ Meldungen KabelAnkreuzen(Station& s, const Kataloge& k, int kabel, bool an) {
 }
 
 Meldungen DiagrammeDrucken(Station& s, const Kataloge& k) {
-  s.fenster.vorschau = true;
+  VorschauRufen(s);
   return PapierWaehlen(s, k, Papierart::Diagramme);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/Zahlen.h"
 #include "station/Datenblatt.h"
 #include "station/Spalten.h"
 #include "station/Station.h"
@@ -22,7 +23,9 @@ std::string Spaltenstand(const Station& s, int spalte) {
   std::string text = Spaltenname(spalte) + ": ";
   for (const Zeile zeile : {ZeileFrequenz, ZeileLeistung}) {
     const std::string_view name = Zeilenarten.at(static_cast<std::size_t>(zeile) - 1).beschriftung;
-    if (s.rot[Zellenindex(spalte, zeile)]) text += std::string(name.substr(0, name.find(' '))) + " fehlt, ";
+    // What has been filled in since stays red until the next calculation.
+    const bool fehlt = s.rot[Zellenindex(spalte, zeile)] && !Positiv(Zelle(s, spalte, zeile));
+    if (fehlt) text += std::string(name.substr(0, name.find(' '))) + " fehlt, ";
   }
   if (Leer(s, spalte, ZeileHoehe, ZeileHSMvde)) return text + "leer";
   if (Leer(s, spalte, ZeileOhneHSM, ZeileHSMvde)) return text + "noch nicht gerechnet";

@@ -145,6 +145,7 @@ struct Fensterlage {
   bool datenblatt = false;
   bool benutzer = false;
   bool vorschau = false;
+  int vorschauRufe = 0;     ///< how often the user has asked for it: open already, it comes to the front
   bool dateimenue = false;  ///< the main window's entries for the data sheet's file can be used
   bool baender = false;
   bool diagramme = false;

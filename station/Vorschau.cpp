@@ -14,7 +14,7 @@ namespace {
 
 Meldungen Zeigen(Station& s, const Papierwahl& wahl) {
   s.papiere = wahl;
-  s.fenster.vorschau = true;
+  VorschauRufen(s);
   return {};
 }
 
@@ -29,6 +29,11 @@ Meldungen NachPruefung(Station& s, Papierart art) {
 }
 
 }  // namespace
+
+void VorschauRufen(Station& s) {
+  s.fenster.vorschau = true;
+  ++s.fenster.vorschauRufe;
+}
 
 Meldungen PapiereZeigen(Station& s, const Kataloge&) {
   return Zeigen(s, {Papierart::Mappe, std::nullopt, true});

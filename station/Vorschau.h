@@ -4,6 +4,8 @@
 /// What the user does with the papers on the screen.
 namespace vesk {
 
+/// Opens the preview, or brings it to the front, with the papers that are chosen.
+void VorschauRufen(Station& s);
 /// mnuPapiere: the binder.
 Meldungen PapiereZeigen(Station& s, const Kataloge& k);
 /// mnuAntragDrucken. The operator's data are missing and the user does not want to print all the same: shows

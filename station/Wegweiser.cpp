@@ -1,6 +1,8 @@
 #include "station/Wegweiser.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "engine/Zahlen.h"
 #include "station/Datenblatt.h"
@@ -18,6 +20,23 @@ namespace {
 Schritt Fehlend(const Station& s) {
   if (!Positiv(s.werte.QRGText)) return {"Frequenz fehlt"};
   return {s.modus == Modus::Abstand ? "Leistung fehlt" : "Abstand fehlt", {}, true};
+}
+
+/// A column holds the inputs of the main window: copied from the table of all bands, without a result here.
+bool SchonImBlatt(const Station& s) {
+  const Rechenwerte& w = s.werte;
+  const std::array<std::pair<Zeile, const std::string*>, 4> eingaben = {{{ZeileFrequenz, &w.QRGText},
+                                                                         {ZeileLeistung, &w.PWRText},
+                                                                         {ZeileVerluste, &w.DaempfungText},
+                                                                         {ZeileGewinn, &w.GewinnText}}};
+  const auto haelt = [&](int spalte) {
+    return std::all_of(eingaben.begin(), eingaben.end(), [&](const auto& eingabe) {
+      const std::string& text = *eingabe.second;
+      return Zelle(s, spalte, eingabe.first) == (text.empty() ? "0" : text);
+    });
+  };
+  const std::vector<int> spalten = BenutzteSpalten(s);
+  return s.modus == Modus::Abstand && std::any_of(spalten.begin(), spalten.end(), haelt);
 }
 
 /// What is left when nothing is to be calculated or copied.
@@ -58,7 +77,7 @@ Schritt NaechsterSchritt(const Station& s) {
     const bool begonnen = !s.werte.QRGText.empty() || !s.werte.PWRText.empty();
     return begonnen || BenutzteSpalten(s).empty() ? Fehlend(s) : ZuDenPapieren(s);
   }
-  if (!s.ergebnis) return {"Berechnen: =", Rechnen};
+  if (!s.ergebnis && !SchonImBlatt(s)) return {"Berechnen: =", Rechnen};
   if (ErgebnisVeraltet(s)) return {"Ergebnis veraltet: =", Rechnen};
   if (Kopierbar(s))
     return {"In Spalte " + NaechsteFreieSpalte(s.Zellen) + " kopieren", InFreieSpalteKopieren};

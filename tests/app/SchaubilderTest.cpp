@@ -70,6 +70,9 @@ TEST_F(Schaubildfenster, DiagrammeWaehlenUndDrucken) {
   Klick(u"cmdDiagrammeDrucken"_s, fenster);
   ASSERT_TRUE(Sichtbar(u"frmVorschau"_s));
   EXPECT_EQ(Fenster(u"frmVorschau"_s).windowTitle(), u"Diagramme");
+  Aktivieren(fenster);
+  Klick(u"cmdDiagrammeDrucken"_s, fenster);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&Fenster(u"frmVorschau"_s), 1000));
   programm.Diagramme().close();
   EXPECT_FALSE(Sichtbar(fenster) || station.fenster.diagramme);
 }

@@ -22,7 +22,8 @@ TEST(Drucker, EinFehlschlagNenntDieDatei) {
       {u"/dev/full"_s, false},
   };
   const Druckauftrag auftrag{u"Probe"_s,
-                             {QPageLayout::Portrait, QPageLayout::Landscape},
+                             {{QPageSize(QPageSize::A4), QPageLayout::Portrait, {}},
+                              {QPageSize(QPageSize::A3), QPageLayout::Landscape, {}}},
                              [](std::size_t, QPainter& maler, double) { maler.drawLine(0, 0, 99, 99); }};
   for (const auto& [ziel, gut] : ziele) {
     SCOPED_TRACE(ziel.toStdString());

@@ -1,4 +1,6 @@
 #pragma once
+#include <gtest/gtest.h>
+
 #include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPaintEngine>
@@ -123,6 +125,28 @@ inline Aufnahme Aufnehmen(const Mappe& mappe, std::size_t seite) {
   QPainter maler(&geraet);
   SeiteMalen(mappe, seite, maler, Aufnahmegeraet::JeMillimeter);
   return geraet.aufnahme;
+}
+
+inline void AllesIn(QRectF flaeche, const Aufnahme& inhalt) {
+  constexpr double Haar = 0.3;  // italics and thick lines
+  flaeche.adjust(-Haar, -Haar, Haar, Haar);
+  for (const Textstelle& t : inhalt.texte) {
+    EXPECT_TRUE(t.tinte.isEmpty() || flaeche.contains(t.tinte)) << qPrintable(t.text);
+  }
+  for (const Strich& strich : inhalt.striche) {
+    EXPECT_TRUE(flaeche.contains(strich.linie.p1()) && flaeche.contains(strich.linie.p2()));
+  }
+}
+
+inline void NichtsUeberdeckt(const std::vector<Textstelle>& texte) {
+  for (std::size_t i = 0; i < texte.size(); ++i) {
+    // Italic letters of a formula lean over their neighbours.
+    const QRectF tinte = texte[i].tinte.adjusted(0.3, 0.1, -0.3, -0.1);
+    for (std::size_t j = 0; j < i; ++j) {
+      EXPECT_FALSE(tinte.isValid() && tinte.intersects(texte[j].tinte))
+          << qPrintable(texte[i].text + QStringLiteral(" | ") + texte[j].text);
+    }
+  }
 }
 
 }  // namespace vesk

@@ -59,28 +59,6 @@ void HatZeilen(const QString& wortlaut, const QString& zeilen) {
   EXPECT_TRUE((u'\n' + wortlaut).contains(u'\n' + zeilen + u'\n')) << qPrintable(zeilen);
 }
 
-void AllesIn(QRectF flaeche, const Aufnahme& inhalt) {
-  constexpr double Haar = 0.3;  // italics and thick lines
-  flaeche.adjust(-Haar, -Haar, Haar, Haar);
-  for (const Textstelle& t : inhalt.texte) {
-    EXPECT_TRUE(t.tinte.isEmpty() || flaeche.contains(t.tinte)) << qPrintable(t.text);
-  }
-  for (const Strich& strich : inhalt.striche) {
-    EXPECT_TRUE(flaeche.contains(strich.linie.p1()) && flaeche.contains(strich.linie.p2()));
-  }
-}
-
-void NichtsUeberdeckt(const std::vector<Textstelle>& texte) {
-  for (std::size_t i = 0; i < texte.size(); ++i) {
-    // Italic letters of a formula lean over their neighbours.
-    const QRectF tinte = texte[i].tinte.adjusted(0.3, 0.1, -0.3, -0.1);
-    for (std::size_t j = 0; j < i; ++j) {
-      EXPECT_FALSE(tinte.isValid() && tinte.intersects(texte[j].tinte))
-          << qPrintable(texte[i].text + u" | "_s + texte[j].text);
-    }
-  }
-}
-
 /// Takes off the footer, which is painted last.
 Aufnahme FussAbnehmen(Aufnahme& seite, const QString& zaehlung) {
   const auto gleich = [&](const Textstelle& t) { return t.text == zaehlung; };

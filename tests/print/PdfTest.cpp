@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace vesk {
 namespace {
 
-/// Two documents of two and one pages, the last one across.
+/// Two documents of two and one pages, the last one large and across.
 Mappe Beispiel() {
   const auto seite = [](Blattformat format, const QString& text) {
     return Seite{format, [text](Blatt& blatt) { blatt.Text({30, 40}, text); }};
@@ -23,7 +23,7 @@ Mappe Beispiel() {
           u"Fuß"_s,
           {},
           {{u"Größe"_s, {seite(Blattformat::Hoch, u"eins"_s), seite(Blattformat::Hoch, u"zwei"_s)}},
-           {u"Maß"_s, {seite(Blattformat::Quer, u"drei"_s)}}}};
+           {u"Maß"_s, {seite(Blattformat::QuerA3, u"drei"_s)}}}};
 }
 
 const QDateTime Zeit({2026, 3, 4}, {5, 6, 7}, Qt::UTC);
@@ -41,7 +41,7 @@ TEST(Pdf, TraegtTitelRufzeichenDatumUndLesezeichen) {
   const auto breite = [&](std::size_t i) {
     return seiten[i].getMediaBox().getArrayItem(2).getNumericValue();
   };
-  EXPECT_TRUE(breite(1) < 600 && breite(2) > 800);
+  EXPECT_TRUE(breite(1) < 600 && breite(2) > 1190);
   auto lesezeichen = QPDFOutlineDocumentHelper(pdf).getTopLevelOutlines();
   ASSERT_EQ(lesezeichen.size(), 2U);
   EXPECT_EQ(lesezeichen[1].getTitle(), "Maß");

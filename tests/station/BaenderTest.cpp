@@ -1,4 +1,5 @@
 #include "station/Baender.h"
+#include "station/Wegweiser.h"
 #include "tests/station/Tisch.h"
 
 namespace vesk {
@@ -131,6 +132,15 @@ TEST_F(EineStation, DieEigeneFrequenzGiltInIhremBand) {
             "1.815 18.068 24000");
   Tippen(QRG, "144").Verlassen();
   EXPECT_EQ(Band("20 m").frequenz + ' ' + Band("2 m").frequenz, "14 144");
+}
+
+TEST_F(EineStation, WasKopiertIstBrauchtKeinGleich) {
+  Eingeben("14");
+  EXPECT_EQ(NaechsterSchritt(s).text, "Berechnen: =");
+  Tun(BaenderKopieren, Baenderwahl().set(4));
+  EXPECT_EQ(NaechsterSchritt(s).text, "Datei speichern");
+  Tippen(PWR, "50").Verlassen();
+  EXPECT_EQ(NaechsterSchritt(s).text, "Berechnen: =");
 }
 
 TEST_F(EineStation, WasNichtGehtStehtInWorten) {

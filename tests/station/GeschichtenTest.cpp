@@ -1,3 +1,4 @@
+#include "station/Spaltenstand.h"
 #include "tests/station/Tisch.h"
 
 namespace vesk {
@@ -199,6 +200,9 @@ TEST_F(Geschichte, RoteMarken) {
   EXPECT_EQ(s.markePWR, Pruefmarke::Gut);
   Zelle(3, ZeileFrequenz, "7").Tun(ZelleGeklickt, 3);
   EXPECT_TRUE(s.rot[Zellenindex(3, ZeileLeistung)]);
+  EXPECT_EQ(Spaltenstand(s, 3), "Spalte C: Sendeleistung fehlt, noch nicht gerechnet");
+  Zelle(3, ZeileLeistung, "5");
+  EXPECT_EQ(Spaltenstand(s, 3), "Spalte C: noch nicht gerechnet");
   Tun(ZelleGeklickt, 4);
   EXPECT_FALSE(s.rot[Zellenindex(3, ZeileLeistung)]);
 }

@@ -19,6 +19,7 @@
 #include "ui/basis/Anzeige.h"
 #include "ui/basis/Einpassen.h"
 #include "ui/basis/Feldhilfe.h"
+#include "ui/basis/Lesbarkeit.h"
 #include "ui/charts/Kurvenblick.h"
 
 using namespace Qt::StringLiterals;
@@ -101,6 +102,7 @@ frmBaender::frmBaender(Ablauf& ablauf, const Kataloge& kataloge, QWidget* eltern
 void frmBaender::TabelleAnlegen() {
   tblBaender->setObjectName(u"tblBaender"_s);
   tblBaender->setAccessibleName(u"Alle Bänder"_s);
+  KaestchenDeutlich(*tblBaender);
   tblBaender->setRowCount(static_cast<int>(Amateurbaender().size()));
   tblBaender->setColumnCount(static_cast<int>(Bandspalten));
   for (int i = 0; i < tblBaender->columnCount(); ++i)
@@ -109,8 +111,6 @@ void frmBaender::TabelleAnlegen() {
     for (int i = 0; i < tblBaender->columnCount(); ++i) {
       auto* zelle = new QTableWidgetItem;
       const bool zahl = i != Band && i != Hinweisspalte;
-      // On the ground of the table a box without a tick would not be seen in a dark theme.
-      if (i == Band) zelle->setBackground(palette().window());
       zelle->setTextAlignment((zahl ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
       tblBaender->setItem(zeile, i, zelle);
     }

@@ -1,5 +1,7 @@
 #include "ui/basis/Einpassen.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -74,6 +76,9 @@ void Zusammenruecken(const QWidget& fenster, qreal faktor) {
 /// tower.
 void FelderFlach(const QWidget& fenster) {
   for (QLineEdit* feld : fenster.findChildren<QLineEdit*>()) {
+    const QWidget* eltern = feld->parentWidget();
+    // Theirs fill them.
+    if (qobject_cast<const QComboBox*>(eltern) || qobject_cast<const QAbstractSpinBox*>(eltern)) continue;
     MitSchrift(*feld, [feld] { feld->setFixedHeight(feld->fontMetrics().height() + 5); });
   }
 }

@@ -1,5 +1,6 @@
 #include "ui/basis/Lesbarkeit.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QMenuBar>
 #include <QPainter>
@@ -103,7 +104,36 @@ class Rahmenstil : public QProxyStyle {
   }
 };
 
+/// Boxes of a list no higher than its lines, with a frame that is seen on a dark ground, too.
+class Kaestchenstil : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  int pixelMetric(PixelMetric mass, const QStyleOption* option, const QWidget* widget) const override {
+    const int wert = QProxyStyle::pixelMetric(mass, option, widget);
+    const bool kasten = mass == PM_IndicatorWidth || mass == PM_IndicatorHeight;
+    return kasten && widget != nullptr ? std::min(wert, widget->fontMetrics().height() - 1) : wert;
+  }
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* maler,
+                     const QWidget* widget) const override {
+    const auto* eintrag = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (element != PE_IndicatorItemViewItemCheck || eintrag == nullptr) {
+      return QProxyStyle::drawPrimitive(element, option, maler, widget);
+    }
+    QStyleOptionViewItem deutlich = *eintrag;
+    // The frame is made of this colour, darkened.
+    deutlich.palette.setColor(QPalette::Window, QApplication::palette().color(QPalette::Text));
+    QProxyStyle::drawPrimitive(element, &deutlich, maler, widget);
+  }
+};
+
 }  // namespace
+
+void KaestchenDeutlich(QAbstractItemView& liste) {
+  auto* stil = new Kaestchenstil(QApplication::style()->name());
+  stil->setParent(&liste);
+  liste.setStyle(stil);
+}
 
 Lesbarkeit::Lesbarkeit() {
   TexteLesbar();

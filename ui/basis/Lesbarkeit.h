@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QPointer>
 
+class QAbstractItemView;
+
 namespace vesk {
 
 /// Made once beside the application: the control that has the focus bears a frame that is seen in light and
@@ -17,5 +19,8 @@ class Lesbarkeit : public QObject {
 
   QPointer<QFocusFrame> rahmen_;  ///< lies in the window that has the focus, and goes with it
 };
+
+/// The boxes to tick in this list or table are seen in light and dark themes and at every size of the font.
+void KaestchenDeutlich(QAbstractItemView& liste);
 
 }  // namespace vesk

@@ -14,6 +14,7 @@
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Auswahlliste.h"
 #include "ui/basis/Feldhilfe.h"
+#include "ui/basis/Lesbarkeit.h"
 #include "ui/charts/Kurvenblick.h"
 
 using namespace Qt::StringLiterals;
@@ -64,11 +65,11 @@ QWidget* frmDiagramme::WahlAnlegen() {
   lblKabel->setBuddy(lstKabel);
   lstKabel->setObjectName(u"lstKabel"_s);
   lstKabel->setAccessibleName(u"Kabel des Diagramms"_s);
+  KaestchenDeutlich(*lstKabel);
   for (int i = 0; i < kataloge_.kabel.Kabelanzahl; ++i) {
     auto* eintrag =
         new QListWidgetItem(QString::fromStdString(kataloge_.kabel.liste.at(std::size_t(i))), lstKabel);
     eintrag->setCheckState(Qt::Unchecked);
-    eintrag->setBackground(palette().window());  // boxes are seen in a dark theme, too
   }
   connect(lstKabel, &QListWidget::itemChanged, this, [this](const QListWidgetItem* eintrag) {
     ablauf_.Tun(Mit(KabelAnkreuzen, lstKabel->row(eintrag), eintrag->checkState() == Qt::Checked));

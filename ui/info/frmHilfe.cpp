@@ -4,7 +4,6 @@
 #include <QDesktopServices>
 #include <QFontMetrics>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -157,9 +156,7 @@ QWidget* frmHilfe::InhaltAufbauen() {
   treInhalt->setObjectName(u"treInhalt"_s);
   treInhalt->setAccessibleName(u"Inhalt des Handbuchs"_s);
   treInhalt->setHeaderHidden(true);
-  // Where the window is too narrow for a title, it can be scrolled.
-  treInhalt->header()->setStretchLastSection(false);
-  treInhalt->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  treInhalt->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   treInhalt->setIndentation(2 * treInhalt->fontMetrics().averageCharWidth());
   QList<QTreeWidgetItem*> pfad;
   for (const Hilfeseite& seite : buch_.Inhalt()) {

@@ -1,6 +1,7 @@
 #include "ui/preview/Seitenliste.h"
 
 #include <QScrollBar>
+#include <algorithm>
 
 #include "ui/basis/Einpassen.h"
 #include "ui/preview/Seitenblick.h"
@@ -13,6 +14,11 @@ namespace {
 
 constexpr double JeMillimeter = 0.026;  // of the height of a line
 constexpr int Textzeilen = 3;           // below a picture
+
+double Langseite(Blattformat format) {
+  const QSizeF blatt = Blattgroesse(format);
+  return std::max(blatt.width(), blatt.height());
+}
 
 /// The document that a page begins with, or that it belongs to.
 QString Beschriftung(const Mappe& mappe, std::size_t seite) {
@@ -37,7 +43,7 @@ Seitenliste::Seitenliste(QWidget* eltern) : QListWidget(eltern) {
   setSpacing(4);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   MitSchrift(*this, [this] {
-    const int breite = static_cast<int>(Blattgroesse(Blattformat::Quer).width() * Massstab());
+    const int breite = static_cast<int>(Langseite(Blattformat::Quer) * Massstab(Blattformat::Quer));
     setIconSize({breite, breite});
     setFixedWidth(Eintragsbreite() + 2 * (spacing() + frameWidth()) +
                   verticalScrollBar()->sizeHint().width());
@@ -50,8 +56,8 @@ int Seitenliste::Eintragsbreite() const {
   return iconSize().width() + 2 * fontMetrics().height();
 }
 
-double Seitenliste::Massstab() const {
-  return JeMillimeter * fontMetrics().height();
+double Seitenliste::Massstab(Blattformat format) const {
+  return JeMillimeter * fontMetrics().height() * Langseite(Blattformat::Hoch) / Langseite(format);
 }
 
 void Seitenliste::Zeigen(const Mappe& mappe) {
@@ -62,7 +68,8 @@ void Seitenliste::Zeigen(const Mappe& mappe) {
     const QString text = u"%1 · %2"_s.arg(i + 1).arg(Beschriftung(mappe, static_cast<std::size_t>(i)));
     if (i == count()) addItem(text);
     item(i)->setText(text);
-    const double hoehe = Blattgroesse(Seitenformat(mappe, static_cast<std::size_t>(i))).height() * Massstab();
+    const Blattformat format = Seitenformat(mappe, static_cast<std::size_t>(i));
+    const double hoehe = Blattgroesse(format).height() * Massstab(format);
     item(i)->setSizeHint(
         {Eintragsbreite(), static_cast<int>(hoehe) + Textzeilen * fontMetrics().lineSpacing()});
   }
@@ -72,8 +79,8 @@ void Seitenliste::Zeigen(const Mappe& mappe) {
 
 void Seitenliste::NaechsteMalen() {
   if (naechste_ >= count()) return takt_.stop();
-  const QImage bild =
-      Seitenbild(*mappe_, static_cast<std::size_t>(naechste_), Massstab(), devicePixelRatioF());
+  const auto seite = static_cast<std::size_t>(naechste_);
+  const QImage bild = Seitenbild(*mappe_, seite, Massstab(Seitenformat(*mappe_, seite)), devicePixelRatioF());
   item(naechste_++)->setIcon(QPixmap::fromImage(bild));
 }
 

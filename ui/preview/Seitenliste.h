@@ -18,7 +18,8 @@ class Seitenliste : public QListWidget {
  private:
   void NaechsteMalen();
   int Eintragsbreite() const;
-  double Massstab() const;  ///< points of the screen to the millimetre
+  /// Points of the screen to the millimetre; large sheets are made as small as the others.
+  double Massstab(Blattformat format) const;
 
   const Mappe* mappe_ = nullptr;
   int naechste_ = 0;

@@ -79,6 +79,7 @@ void frmVorschau::Zeigen(const Station& s) {
     gezeigt_.reset();  // nobody waits for the pages of a closed window
     return pause_.stop();
   }
+  if (gezeigt_ && gezeigt_->fenster.vorschauRufe != s.fenster.vorschauRufe) activateWindow();
   const bool sofort = !gezeigt_ || gezeigt_->papiere != s.papiere;
   if (!gezeigt_ || gezeigt_->papiere.art != s.papiere.art) seite_ = 0;
   gezeigt_ = s;
