@@ -6,7 +6,9 @@
 #include "engine/Zahlen.h"
 #include "station/Datenblatt.h"
 #include "station/Haupthandlungen.h"
+#include "station/Lageplanhandlungen.h"
 #include "station/Operator.h"
+#include "station/Passung.h"
 #include "station/Spalten.h"
 #include "station/Text.h"
 
@@ -195,11 +197,15 @@ std::vector<Befund> PapierePruefen(const Station& s) {
     WinkelPruefen(s, spalte, befunde);
     ErgebnissePruefen(s, spalte, befunde);
   }
+  for (const Planbefund& befund : LageplanPruefen(s)) {
+    befunde.push_back({"Lageplan: " + befund.text, ImLageplan{befund.objekt}});
+  }
   return befunde;
 }
 
 Meldungen ZumBefund(Station& s, const Kataloge& k, const Papierort& ort) {
   if (std::holds_alternative<BeimBenutzer>(ort)) return BenutzerOeffnen(s, k);
+  if (std::holds_alternative<ImLageplan>(ort)) return LageplanOeffnen(s, k);
   return std::holds_alternative<InZelle>(ort) ? DatenblattOeffnen(s, k) : OptionenOeffnen(s, k);
 }
 

@@ -68,7 +68,11 @@ struct InZelle {
 struct ImWinkelblatt {
   bool operator==(const ImWinkelblatt&) const = default;
 };
-using Papierort = std::variant<BeimBenutzer, InZelle, ImWinkelblatt>;
+struct ImLageplan {
+  std::optional<std::size_t> objekt;  ///< index in the plan
+  bool operator==(const ImLageplan&) const = default;
+};
+using Papierort = std::variant<BeimBenutzer, InZelle, ImWinkelblatt, ImLageplan>;
 
 /// One thing that is open before filing.
 struct Befund {

@@ -10,6 +10,7 @@
 #include "engine/Rechenwerte.h"
 #include "station/Datenblattspalte.h"
 #include "station/Kabelkatalog.h"
+#include "station/Lageplan.h"
 #include "station/Papierwahl.h"
 #include "station/Schaubildwahl.h"
 #include "station/Sektoren.h"
@@ -149,6 +150,7 @@ struct Fensterlage {
   bool dateimenue = false;  ///< the main window's entries for the data sheet's file can be used
   bool baender = false;
   bool diagramme = false;
+  bool lageplan = false;
 
   bool operator==(const Fensterlage&) const = default;
 };
@@ -196,6 +198,7 @@ struct Station {
   Benutzer benutzer;
   std::array<Pruefmarke, Benutzerfelder.size()> benutzermarken{};
   std::string klasseEntschieden;  ///< callsign that the class was decided for, or that came with it
+  Lageplan lageplan;
   Fensterlage fenster;
   Papierwahl papiere;
   Schaubildwahl schaubilder;

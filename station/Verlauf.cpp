@@ -13,7 +13,7 @@ auto Inhalt(const Station& s) {
   return std::tie(w.QRGText, w.PWRText, w.GewinnText, w.DaempfungText, w.WinkelDaempfungText,
                   w.Modulationsfaktor, w.Zyklusfaktor, w.Grenzwerttyp, s.modus, s.einstellungen.AFu, s.Zellen,
                   s.Datenblattspalten, s.kreuze, s.SelectedModes, s.zyklus, s.AntennenIndex, s.winkel.antenne,
-                  s.winkel.massstab, s.OptionenBeruecksichtigen, s.benutzer, s.Fusszeile);
+                  s.winkel.massstab, s.OptionenBeruecksichtigen, s.benutzer, s.Fusszeile, s.lageplan);
 }
 
 /// A calculation fills these, too; then they are no entry of the user.
