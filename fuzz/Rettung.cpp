@@ -88,6 +88,7 @@ void FremdePruefen(Vorrat& vorrat, const Ordner& ordner) {
     Pruefen(fund.pfad == kopie && (fund.datei.empty() || fund.datei == datei));
     Pruefen(bytes.find(fund.inhalt.user) != std::string::npos);
     Pruefen(bytes.find(fund.inhalt.winkel) != std::string::npos);
+    Pruefen(bytes.find(fund.inhalt.plan) != std::string::npos);
   }
   Pruefen(fs::exists(datei) == (stand > 0) && Inhalt(datei) == (stand > 0 ? gespeichert : ""));
   if (fs::exists(kopie)) return;
@@ -101,6 +102,7 @@ void RundreisePruefen(Vorrat& vorrat, const Ordner& ordner) {
   Rettung::Inhalt inhalt;
   inhalt.winkel = vorrat.Zeile();
   inhalt.winkeldatei = fs::path(vorrat.Zeile()) / "h-b.ang";
+  inhalt.plan = vorrat.Zeile();
   inhalt.user = vorrat.Rest();
   {
     Rettung rettung;
@@ -110,7 +112,8 @@ void RundreisePruefen(Vorrat& vorrat, const Ordner& ordner) {
     Pruefen(Rettung::Suchen(ordner.Pfad()).empty());
   }
   const std::vector<Rettung::Fund> funde = Rettung::Suchen(ordner.Pfad());
-  Pruefen(funde.size() == (inhalt.user == "gesichert" && inhalt.winkel.empty() ? 0 : 1));
+  const bool nichts = inhalt.user == "gesichert" && inhalt.winkel.empty() && inhalt.plan.empty();
+  Pruefen(funde.size() == (nichts ? 0 : 1));
   for (const Rettung::Fund& fund : funde) Pruefen(fund.datei == datei && fund.inhalt == inhalt);
 }
 

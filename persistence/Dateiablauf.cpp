@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "engine/Version.h"
-#include "persistence/Dateigrenzen.h"
+#include "persistence/Lageplandatei.h"
 #include "persistence/Pfade.h"
 #include "station/Datenblatt.h"
 #include "station/Operator.h"
@@ -15,6 +15,24 @@
 namespace vesk {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// Puts the file `von`, or that there is none, in place of `nach`; what stood there is kept as "…-alt".
+Fehlergrund Herbringen(const fs::path& von, const fs::path& nach) {
+  const Gelesen neu = DateiLesen(von, grenzen::UserDatei);
+  const Gelesen alt = DateiLesen(nach, grenzen::UserDatei);
+  if (alt.status != Lesestatus::Fehlt) {
+    if (alt.status == neu.status && alt.bytes == neu.bytes) return std::nullopt;
+    if (Fehlergrund grund = DateiKopieren(nach, FreierAltname(nach))) return grund;
+  }
+  if (neu.status != Lesestatus::Fehlt) return DateiKopieren(von, nach);
+  std::error_code fehler;
+  fs::remove(nach, fehler);
+  return fehler ? Fehlergrund(Fehlertext(fehler.value())) : std::nullopt;
+}
+
+}  // namespace
 
 Dateiablauf::Dateiablauf(Station& station, const Kataloge& kataloge, Rueckfragen& rueckfragen)
     : station_(station), kataloge_(kataloge), rueckfragen_(rueckfragen) {}
@@ -60,13 +78,15 @@ void Dateiablauf::Leeren() {
   station_.spaltenfarben = {};
   std::fill(station_.Datenblattspalten.begin() + 1, station_.Datenblattspalten.end(), LeereSpalte());
   station_.Fusszeile.clear();
+  station_.lageplan = {};
 }
 
 /// Reads the current file. A chosen one comes into the present format at once.
 void Dateiablauf::Einlesen(bool gewaehlt) {
   station_.neuesRufzeichen = false;
   station_.UserGeaendert = false;
-  const Gelesen datei = stand_.Lesen(Pfad());
+  const Gelesen datei = user_.stand.Lesen(Pfad());
+  PlanEinlesen(datei.status == Lesestatus::Fehlt);
   if (datei.status == Lesestatus::Gelesen) {
     Auswerten(datei, gewaehlt);
   } else {
@@ -79,7 +99,7 @@ void Dateiablauf::Einlesen(bool gewaehlt) {
 
 void Dateiablauf::Auswerten(const Gelesen& datei, bool gewaehlt) {
   const Lesebericht bericht = BytesLesen(datei.bytes);
-  alteFassungNoetig_ = !bericht.verlustfrei || bericht.abgebrochen;
+  user_.alteFassungNoetig = !bericht.verlustfrei || bericht.abgebrochen;
   if (bericht.User) station_.titelGesetzt = true;
   AnderswoMelden();
   if (gewaehlt && bericht.abgebrochen) {
@@ -101,7 +121,7 @@ Lesebericht Dateiablauf::BytesLesen(std::string_view bytes) {
 }
 
 void Dateiablauf::NichtGelesen(const Gelesen& datei) {
-  alteFassungNoetig_ = false;
+  user_.alteFassungNoetig = false;
   station_.titelGesetzt = true;
   if (datei.status == Lesestatus::Fehlt) {
     UserDateiVorgaben(station_);
@@ -115,19 +135,18 @@ void Dateiablauf::Umwandeln(const Lesebericht& bericht) {
   if (bericht.version != Dateiversion::ZuAlt && bericht.version != Dateiversion::Umwandelbar) return;
   Sagen(Migrationsmeldung(bericht, station_.UserDatei));
   const bool kopiert = !DateiKopieren(Pfad(), PfadAusUtf8(station_.Arbeitsverzeichnis) / "User.bak");
-  if (kopiert && !bericht.abgebrochen) alteFassungNoetig_ = false;
+  if (kopiert && !bericht.abgebrochen) user_.alteFassungNoetig = false;
   station_.UserGeaendert = true;
 }
 
 void Dateiablauf::AnderswoMelden() {
-  if (!stand_.AnderswoOffen()) {
+  if (!user_.stand.AnderswoOffen()) {
     anderswoGemeldet_.clear();
   } else if (anderswoGemeldet_ != Pfad()) {
     anderswoGemeldet_ = Pfad();
     Sagen("Die Datei " + station_.UserDatei +
           " ist bereits in einem anderen Vesk geöffnet.\nWas dort geändert und gespeichert wird, erscheint "
-          "hier "
-          "nicht; es wird aber nicht ungefragt überschrieben.");
+          "hier nicht; es wird aber nicht ungefragt überschrieben.");
   }
 }
 
@@ -184,24 +203,39 @@ bool Dateiablauf::InsProgrammverzeichnis(const fs::path& gewaehlt) {
   }
   const bool dieselbe =
       dort.status == Lesestatus::Gelesen && dort.bytes == DateiLesen(gewaehlt, grenzen::UserDatei).bytes;
-  if (dieselbe) return true;
-  Fehlergrund grund;
-  if (dort.status != Lesestatus::Fehlt) grund = DateiKopieren(ziel, FreierAltname(ziel));
-  if (!grund) grund = DateiKopieren(gewaehlt, ziel);
-  if (!grund) return true;
-  return Fehler("Die Datei " + PfadAlsUtf8(gewaehlt.filename()) + " konnte nicht kopiert werden.", *grund);
+  const auto kopieren = [&](const fs::path& von, const fs::path& nach) {
+    const Fehlergrund grund = Herbringen(von, nach);
+    const std::string name = PfadAlsUtf8(nach.filename());
+    return !grund || Fehler("Die Datei " + name + " konnte nicht kopiert werden.", *grund);
+  };
+  if (!dieselbe && !kopieren(gewaehlt, ziel)) return false;
+  // To the same data belongs the plan that lies here already, unless another one is brought along.
+  const fs::path plan = Lageplanpfad(gewaehlt);
+  const bool mitPlan = DateiLesen(plan, grenzen::Lageplan).status != Lesestatus::Fehlt;
+  if (dieselbe && !mitPlan) return true;
+  if (!kopieren(plan, Lageplanpfad(ziel))) return false;
+  const Fehlergrund grund = BildortAnpassen(Lageplanpfad(ziel), plan.parent_path());
+  return !grund || Fehler("Der Ort des Hintergrundbilds läßt sich nicht merken.", *grund);
 }
 
 void Dateiablauf::AenderungenVerwerfen() {
   const Vorgang vorgang(*this);
-  if (!vorgang || !Brauchbar(Pfad(), "Alle Änderungen bleiben erhalten.", true)) return;
-  if (BlattJetzt() != gespeichert_ && !NichtsZuVerlieren() &&
-      !Frage(std::string(Produktname), "Auch das Datenblatt wurde geändert. Alle Änderungen verwerfen?")) {
-    return;
-  }
+  const std::string folge = "Alle Änderungen bleiben erhalten.";
+  if (!vorgang || !Brauchbar(Pfad(), folge, true) || !PlanBrauchbar(folge)) return;
+  if (!NichtsZuVerlieren() && !VerwerfenBestaetigt()) return;
   Leeren();
   Einlesen(false);
   station_.fenster.benutzer = false;
+}
+
+bool Dateiablauf::VerwerfenBestaetigt() {
+  const bool blatt = BlattJetzt() != gespeichert_;
+  const bool plan = !PlanGesichert();
+  if (!blatt && !plan) return true;
+  const char* was = !plan   ? "Auch das Datenblatt wurde"
+                    : blatt ? "Auch Datenblatt und Lageplan wurden"
+                            : "Auch der Lageplan wurde";
+  return Frage(std::string(Produktname), was + std::string(" geändert. Alle Änderungen verwerfen?"));
 }
 
 void Dateiablauf::UserNeu() {
@@ -218,6 +252,7 @@ void Dateiablauf::UserNeu() {
   station_.titelGesetzt = true;
   BenutzerLeeren(station_);
   station_.benutzermarken = {};
+  station_.lageplan = {};
   Sagen(DatenblattLeeren(station_, kataloge_));
   station_.fenster.benutzer = true;
 }

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <string>
 
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Dateistand.h"
 #include "persistence/Rettung.h"
 #include "persistence/Rueckfragen.h"
@@ -11,6 +12,7 @@
 namespace vesk {
 
 /// The user's file from the start to the end of the program: reading, saving, other files, other callsigns.
+/// The plan is a file beside it and shares its fate.
 ///
 /// Nothing is lost: a saving that fails keeps the data, the modified flag and the old file; what another
 /// program has written since is overwritten only when the user says so; a file that was not wholly
@@ -46,6 +48,12 @@ class Dateiablauf {
 
  private:
   class Vorgang;
+  /// One of the files that are worked on.
+  struct Arbeitsdatei {
+    Dateistand stand;
+    bool abgelehnt = false;          ///< it is there, but cannot be used
+    bool alteFassungNoetig = false;  ///< on the disk it holds what writing it would lose
+  };
   /// What an undoing would take away.
   struct Blatt {
     decltype(Station::Zellen) zellen;
@@ -59,6 +67,7 @@ class Dateiablauf {
   Dateiwahl Wahl(const std::string& titel, const std::string& vorschlag) const;
   Blatt BlattJetzt() const;
   bool NichtsZuVerlieren() const;
+  bool VerwerfenBestaetigt();
 
   void Leeren();
   void Einlesen(bool gewaehlt);
@@ -69,16 +78,25 @@ class Dateiablauf {
   void AnderswoMelden();
   bool Brauchbar(const std::filesystem::path& pfad, const std::string& folge, bool ganz = false);
   bool InsProgrammverzeichnis(const std::filesystem::path& gewaehlt);
+  void PlanEinlesen(bool userdateiFehlt);
+  bool PlanGesichert() const;
+  bool PlanBrauchbar(const std::string& folge);
   void Zurueckholen(const Rettung::Fund& fund);
-  void UserZurueckholen(const Rettung::Fund& fund);
+  void DatenZurueckholen(const Rettung::Fund& fund);
+  void PlanZurueckholen(const std::string& bytes);
   Rettung::Stand RettungErneuern();
 
   bool Sichern();
   void EingabenAbschliessen();
   bool SpeichernUnter();
-  bool Schreiben(bool auchFremdes);
-  bool FremdesUeberschreiben(const std::string& bytes, Dateistand::Ergebnis& ergebnis);
-  bool AlteFassungBehalten();
+  bool UserSchreiben(bool auchFremdes);
+  bool PlanSchreiben();
+  /// The file `plan` has been copied from another directory; its picture has stayed there.
+  static Fehlergrund BildortAnpassen(const std::filesystem::path& plan, const std::filesystem::path& vorher);
+  bool Ersetzen(Arbeitsdatei& datei, const std::filesystem::path& pfad, const std::string& bytes,
+                bool auchFremdes);
+  bool DarfFremdesUeberschreiben(Arbeitsdatei& datei, const std::filesystem::path& pfad);
+  bool AlteFassungBehalten(Arbeitsdatei& datei, const std::filesystem::path& pfad);
 
   void Sagen(const std::string& text);
   void Sagen(const Meldungen& meldungen);
@@ -88,13 +106,15 @@ class Dateiablauf {
   Station& station_;
   const Kataloge& kataloge_;
   Rueckfragen& rueckfragen_;
-  Dateistand stand_;
+  Arbeitsdatei user_{Dateistand(grenzen::UserDatei)};
+  Arbeitsdatei plan_{Dateistand(grenzen::Lageplan)};
+  std::filesystem::path planpfad_;
+  Lageplan planGespeichert_;  ///< as it stands in the file `planpfad_`; empty: there need not be one
   Rettung rettung_;
   Blatt gespeichert_;  ///< as it was last read or written
   std::filesystem::path anderswoGemeldet_;
   bool laeuft_ = false;
   bool beendet_ = false;
-  bool alteFassungNoetig_ = false;  ///< the file on the disk holds what writing it would lose
 };
 
 /// Boxes let other events through; nothing else may begin in the midst of one action.

@@ -2,6 +2,7 @@
 
 #include "engine/Version.h"
 #include "persistence/Dateiablauf.h"
+#include "persistence/Lageplandatei.h"
 #include "persistence/Pfade.h"
 #include "persistence/Winkelablauf.h"
 #include "station/Winkel.h"
@@ -13,13 +14,15 @@ namespace fs = std::filesystem;
 namespace {
 
 std::string Rueckfrage(const Rettung::Fund& fund) {
-  const std::string von =
-      fund.datei.empty() ? "für ein neues Rufzeichen" : "an " + PfadAlsUtf8(fund.datei.filename());
+  const std::string name = PfadAlsUtf8(fund.datei.filename());
+  const std::string von = fund.datei.empty() ? "für ein neues Rufzeichen" : "an " + name;
   const std::string anfang = "Das Programm wurde nicht ordentlich beendet. Es gibt ";
   const std::string tabelle = "eine nicht gespeicherte Winkeltabelle";
-  if (fund.inhalt.user.empty()) return anfang + tabelle + ".\nSoll sie zurückgeholt werden?";
-  return anfang + "ungesicherte Änderungen " + von + (fund.inhalt.winkel.empty() ? "" : " und " + tabelle) +
-         ".\nSollen sie zurückgeholt werden?";
+  if (fund.inhalt.user.empty() && fund.inhalt.plan.empty()) {
+    return anfang + tabelle + ".\nSoll sie zurückgeholt werden?";
+  }
+  return anfang + "ungesicherte Änderungen " + (fund.inhalt.user.empty() ? "am Lageplan zu " + name : von) +
+         (fund.inhalt.winkel.empty() ? "" : " und " + tabelle) + ".\nSollen sie zurückgeholt werden?";
 }
 
 }  // namespace
@@ -41,7 +44,7 @@ void Dateiablauf::RettungAnbieten() {
 }
 
 void Dateiablauf::Zurueckholen(const Rettung::Fund& fund) {
-  if (!fund.inhalt.user.empty()) UserZurueckholen(fund);
+  if (!fund.inhalt.user.empty() || !fund.inhalt.plan.empty()) DatenZurueckholen(fund);
   if (!fund.inhalt.winkel.empty()) {
     station_.winkel.datei = PfadAlsUtf8(fund.inhalt.winkeldatei);
     WinkelZeigen(station_, WinkelLesen(fund.inhalt.winkel));
@@ -51,19 +54,23 @@ void Dateiablauf::Zurueckholen(const Rettung::Fund& fund) {
   rettung_.Fortsetzen(fund);
 }
 
-void Dateiablauf::UserZurueckholen(const Rettung::Fund& fund) {
+void Dateiablauf::DatenZurueckholen(const Rettung::Fund& fund) {
   if (!fund.datei.empty() && fund.datei != WirklicherPfad(Pfad())) {
     DateiWechseln(fund.datei);
     Leeren();
     Einlesen(false);
   }
-  Leeren();
-  BytesLesen(fund.inhalt.user);
+  if (!fund.inhalt.user.empty()) {
+    Leeren();
+    BytesLesen(fund.inhalt.user);
+    if (!fund.datei.empty()) station_.lageplan = planGespeichert_;
+    std::error_code egal;
+    user_.alteFassungNoetig = !fund.datei.empty() && fs::exists(Pfad(), egal);
+  }
   station_.neuesRufzeichen = fund.datei.empty();
+  if (!fund.inhalt.plan.empty()) PlanZurueckholen(fund.inhalt.plan);
   station_.UserGeaendert = true;
   station_.titelGesetzt = true;
-  std::error_code egal;
-  alteFassungNoetig_ = !fund.datei.empty() && fs::exists(Pfad(), egal);
 }
 
 Rettung::Stand Dateiablauf::RettungSichern() {
@@ -76,6 +83,7 @@ Rettung::Stand Dateiablauf::RettungErneuern() {
     inhalt.winkel = WinkelSchreiben(WinkeldatenDerSeite(station_));
     inhalt.winkeldatei = PfadAusUtf8(station_.winkel.datei);
   }
+  if (station_.neuesRufzeichen || !PlanGesichert()) inhalt.plan = LageplanBytes(station_.lageplan);
   return rettung_.Sichern(PfadAusUtf8(station_.ProgrammVerzeichnis),
                           station_.neuesRufzeichen ? fs::path() : Pfad(), inhalt);
 }

@@ -4,7 +4,6 @@
 
 #include "engine/Version.h"
 #include "persistence/Dateiablauf.h"
-#include "persistence/Dateigrenzen.h"
 #include "persistence/Pfade.h"
 #include "station/Haupthandlungen.h"
 #include "station/Operator.h"
@@ -81,7 +80,8 @@ bool Dateiablauf::Beenden() {
 bool Dateiablauf::NichtsZuVerlieren() const {
   const bool leer = std::all_of(station_.Zellen.begin(), station_.Zellen.end(),
                                 [](const std::string& zelle) { return zelle.empty(); });
-  return station_.neuesRufzeichen && leer && station_.benutzer == Benutzer();
+  return station_.neuesRufzeichen && leer && station_.benutzer == Benutzer() &&
+         LageplanLeer(station_.lageplan);
 }
 
 /// Writes if something has changed. True: nothing is left to be saved. The data of a new callsign go into a
@@ -89,7 +89,7 @@ bool Dateiablauf::NichtsZuVerlieren() const {
 bool Dateiablauf::Sichern() {
   EingabenAbschliessen();
   if (!station_.UserGeaendert) return true;
-  if (!station_.neuesRufzeichen) return Schreiben(false);
+  if (!station_.neuesRufzeichen) return UserSchreiben(false) && PlanSchreiben();
   return !station_.benutzer.Rufzeichen.empty() && SpeichernUnter();
 }
 
@@ -111,41 +111,27 @@ bool Dateiablauf::SpeichernUnter() {
   if (!pfad) return false;
   const fs::path alterPfad = Pfad();
   const bool andereDatei = *pfad != alterPfad;
-  if (andereDatei && stand_.AndereArbeitenAn(*pfad) &&
+  if (andereDatei && user_.stand.AndereArbeitenAn(*pfad) &&
       !Frage(std::string(Produktname), "Die Datei " + PfadAlsUtf8(pfad->filename()) +
                                            " ist in einem anderen Vesk geöffnet. Trotzdem überschreiben?")) {
     return false;
   }
   DateiWechseln(*pfad);
   station_.UserGeaendert = true;
-  const bool alteFassung = std::exchange(alteFassungNoetig_, alteFassungNoetig_ && !andereDatei);
+  const bool alteFassung = std::exchange(user_.alteFassungNoetig, user_.alteFassungNoetig && !andereDatei);
   // The dialog has asked whether another file may be replaced.
-  const bool geschrieben = Schreiben(andereDatei);
-  if (geschrieben) {
-    station_.neuesRufzeichen = false;
-  } else {
-    DateiWechseln(alterPfad);
-    alteFassungNoetig_ = alteFassung;
-  }
-  return geschrieben;
+  if (UserSchreiben(andereDatei)) return PlanSchreiben();
+  DateiWechseln(alterPfad);
+  user_.alteFassungNoetig = alteFassung;
+  return false;
 }
 
-bool Dateiablauf::Schreiben(bool auchFremdes) {
+bool Dateiablauf::UserSchreiben(bool auchFremdes) {
   FaktorenNormalisieren(station_);
   const std::string bytes = UserDateiSchreiben(station_);
-  const std::string gescheitert = "Die Datei " + station_.UserDatei + " konnte nicht gespeichert werden.";
-  // What could not be read again must not replace what can.
-  if (bytes.size() > grenzen::UserDatei) return Fehler(gescheitert, ZuGross(grenzen::UserDatei));
-  if (alteFassungNoetig_ && !AlteFassungBehalten()) return false;
-
-  Dateistand::Ergebnis ergebnis = stand_.Schreiben(Pfad(), bytes, auchFremdes);
-  if (ergebnis.ausgang == Dateistand::Ausgang::FremdGeaendert && !FremdesUeberschreiben(bytes, ergebnis)) {
-    return false;
-  }
-  if (ergebnis.ausgang == Dateistand::Ausgang::Fehler) {
-    return Fehler(gescheitert, ergebnis.grund);
-  }
+  if (!Ersetzen(user_, Pfad(), bytes, auchFremdes)) return false;
   station_.UserGeaendert = false;
+  station_.neuesRufzeichen = false;
   station_.titelGesetzt = true;
   station_.fenster.benutzer = false;
   gespeichert_ = BlattJetzt();
@@ -154,24 +140,41 @@ bool Dateiablauf::Schreiben(bool auchFremdes) {
   return true;
 }
 
-bool Dateiablauf::FremdesUeberschreiben(const std::string& bytes, Dateistand::Ergebnis& ergebnis) {
-  const bool lesbar = DateiLesen(Pfad(), grenzen::UserDatei).status != Lesestatus::Fehler;
-  const std::string frage =
-      "Die Datei " + station_.UserDatei +
-      (lesbar ? " wurde inzwischen von einem anderen Programm geändert." : " konnte nicht gelesen werden.") +
-      "\nSoll sie mit den Daten aus "
-      "diesem Fenster überschrieben werden? Die andere Fassung bleibt dann als " +
-      PfadAlsUtf8(FreierAltname(Pfad()).filename()) + " erhalten.";
-  if (!Frage(std::string(Produktname), frage) || !AlteFassungBehalten()) return false;
-  ergebnis = stand_.Schreiben(Pfad(), bytes, true);
+/// Puts `bytes` into a file under the rules that hold for all of them. False: they stand nowhere, and the
+/// user knows.
+bool Dateiablauf::Ersetzen(Arbeitsdatei& datei, const fs::path& pfad, const std::string& bytes,
+                           bool auchFremdes) {
+  if (datei.alteFassungNoetig && !AlteFassungBehalten(datei, pfad)) return false;
+  const auto vorbild = pfad == Pfad() ? std::nullopt : std::optional(Pfad());
+  Dateistand::Ergebnis ergebnis = datei.stand.Schreiben(pfad, bytes, auchFremdes, vorbild);
+  if (ergebnis.ausgang == Dateistand::Ausgang::FremdGeaendert) {
+    if (!DarfFremdesUeberschreiben(datei, pfad)) return false;
+    ergebnis = datei.stand.Schreiben(pfad, bytes, true, vorbild);
+  }
+  if (ergebnis.ausgang == Dateistand::Ausgang::Fehler) {
+    return Fehler("Die Datei " + PfadAlsUtf8(pfad.filename()) + " konnte nicht gespeichert werden.",
+                  ergebnis.grund);
+  }
+  datei.abgelehnt = false;
   return true;
 }
 
-bool Dateiablauf::AlteFassungBehalten() {
-  if (const Fehlergrund grund = DateiKopieren(Pfad(), FreierAltname(Pfad()))) {
-    return Fehler("Die Datei " + station_.UserDatei + " konnte nicht gespeichert werden.", *grund);
+bool Dateiablauf::DarfFremdesUeberschreiben(Arbeitsdatei& datei, const fs::path& pfad) {
+  const bool lesbar = !datei.abgelehnt && DateiLesen(pfad, grenzen::UserDatei).status != Lesestatus::Fehler;
+  const std::string frage =
+      "Die Datei " + PfadAlsUtf8(pfad.filename()) +
+      (lesbar ? " wurde inzwischen von einem anderen Programm geändert." : " konnte nicht gelesen werden.") +
+      "\nSoll sie mit den Daten aus "
+      "diesem Fenster überschrieben werden? Die andere Fassung bleibt dann als " +
+      PfadAlsUtf8(FreierAltname(pfad).filename()) + " erhalten.";
+  return Frage(std::string(Produktname), frage) && AlteFassungBehalten(datei, pfad);
+}
+
+bool Dateiablauf::AlteFassungBehalten(Arbeitsdatei& datei, const fs::path& pfad) {
+  if (const Fehlergrund grund = DateiKopieren(pfad, FreierAltname(pfad))) {
+    return Fehler("Die Datei " + PfadAlsUtf8(pfad.filename()) + " konnte nicht gespeichert werden.", *grund);
   }
-  alteFassungNoetig_ = false;
+  datei.alteFassungNoetig = false;
   return true;
 }
 

@@ -2,14 +2,12 @@
 
 #include <system_error>
 
-#include "persistence/Dateigrenzen.h"
-
 namespace vesk {
 
 namespace fs = std::filesystem;
 
 Gelesen Dateistand::Lesen(const fs::path& pfad) {
-  Gelesen gelesen = DateiLesen(pfad, grenzen::UserDatei);
+  Gelesen gelesen = DateiLesen(pfad, hoechstens_);
   // A file that exists but cannot be read stays unknown, so that it is not overwritten unasked.
   pfad_ = gelesen.status == Lesestatus::Fehler ? fs::path() : pfad;
   inhalt_.reset();
@@ -24,16 +22,19 @@ bool Dateistand::AndereArbeitenAn(const fs::path& pfad) const {
 }
 
 bool Dateistand::Fremd(const fs::path& pfad, std::string_view bytes) const {
-  const Gelesen jetzt = DateiLesen(pfad, grenzen::UserDatei);
+  const Gelesen jetzt = DateiLesen(pfad, hoechstens_);
   if (jetzt.status == Lesestatus::Fehlt) return false;
   if (jetzt.status == Lesestatus::Fehler) return true;
   const bool bekannt = pfad == pfad_ && inhalt_ && jetzt.bytes == *inhalt_;
   return !bekannt && jetzt.bytes != bytes;
 }
 
-Dateistand::Ergebnis Dateistand::Schreiben(const fs::path& pfad, std::string_view bytes, bool auchFremdes) {
+Dateistand::Ergebnis Dateistand::Schreiben(const fs::path& pfad, std::string_view bytes, bool auchFremdes,
+                                           const std::optional<fs::path>& vorbild) {
+  // What could not be read again must not replace what can.
+  if (bytes.size() > hoechstens_) return {Ausgang::Fehler, ZuGross(hoechstens_)};
   try {
-    Neufassung neu(pfad);
+    Neufassung neu(pfad, vorbild);
     if (!auchFremdes && Fremd(pfad, bytes)) return {Ausgang::FremdGeaendert, {}};
     neu.Schreiben(bytes);
     neu.Ersetzen();

@@ -26,6 +26,9 @@ class Dateistand {
     std::string grund;  ///< of `Fehler`
   };
 
+  /// `hoechstens`: bytes of the longest file.
+  explicit Dateistand(std::size_t hoechstens) : hoechstens_(hoechstens) {}
+
   /// Reads the file and takes it over as the one worked on.
   Gelesen Lesen(const std::filesystem::path& pfad);
 
@@ -36,12 +39,14 @@ class Dateistand {
   bool AndereArbeitenAn(const std::filesystem::path& pfad) const;
 
   /// Writes and takes the file over as the one worked on. With `auchFremdes` the user has agreed to replace
-  /// whatever is there.
-  Ergebnis Schreiben(const std::filesystem::path& pfad, std::string_view bytes, bool auchFremdes = false);
+  /// whatever is there. A new file gets the permissions of `vorbild`.
+  Ergebnis Schreiben(const std::filesystem::path& pfad, std::string_view bytes, bool auchFremdes = false,
+                     const std::optional<std::filesystem::path>& vorbild = std::nullopt);
 
  private:
   bool Fremd(const std::filesystem::path& pfad, std::string_view bytes) const;
 
+  std::size_t hoechstens_;
   std::filesystem::path pfad_;
   std::optional<std::string> inhalt_;  ///< what stood in the file last; nothing: there was none
   Dateisperre sperre_;

@@ -11,6 +11,7 @@
 
 #include "persistence/Dateien.h"
 #include "persistence/Dateigrenzen.h"
+#include "persistence/Lageplandatei.h"
 #include "persistence/Neufassung.h"
 #include "persistence/Pfade.h"
 #include "persistence/UserDatei.h"
@@ -38,7 +39,7 @@ fs::path Kopiename(const fs::path& datei, int nummer) {
 std::string Bytes(const fs::path& datei, const Rettung::Inhalt& inhalt) {
   std::string bytes;
   for (const std::string& teil :
-       {PfadAlsUtf8(datei), inhalt.user, inhalt.winkel, PfadAlsUtf8(inhalt.winkeldatei)}) {
+       {PfadAlsUtf8(datei), inhalt.user, inhalt.winkel, PfadAlsUtf8(inhalt.winkeldatei), inhalt.plan}) {
     bytes += std::to_string(teil.size()) + ':' + teil;
   }
   return bytes;
@@ -62,6 +63,10 @@ bool IstUserDatei(const Gelesen& datei) {
   return !WarumUnbrauchbar({}, datei, false);
 }
 
+bool IstLageplan(const Gelesen& datei) {
+  return LageplanLesen(datei.bytes).fehler.empty();
+}
+
 std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
   std::error_code egal;
   if (pfad.filename().native().front() != '.' || pfad.extension() != Endung) return std::nullopt;
@@ -75,7 +80,10 @@ std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
     if (!teil) return std::nullopt;
     ziel = std::move(*teil);
   }
-  Rettung::Fund fund{pfad, PfadAusUtf8(teile[0]), {teile[1], teile[2], PfadAusUtf8(teile[3])}};
+  // Before there were plans, copies ended here.
+  std::string plan = TeilLesen(bytes).value_or("");
+  Rettung::Fund fund{
+      pfad, PfadAusUtf8(teile[0]), {teile[1], teile[2], PfadAusUtf8(teile[3]), std::move(plan)}};
   // What a copy names is written to, and whoever has put it here has chosen that: other files are not
   // believed.
   const bool user = Heisst(fund.datei, ".dat") || IstUserDatei(DateiLesen(fund.datei, grenzen::UserDatei));
@@ -84,17 +92,32 @@ std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
   return fund;
 }
 
+enum class Vergleich { Fehlt, Gesichert, Ungewiss };
+
+/// Whether the user will miss `text` of the copy, or the file `datei` says the same or has a later state that
+/// is `brauchbar`.
+Vergleich Vergleichen(const fs::path& kopie, const std::string& text, const fs::path& datei,
+                      std::size_t hoechstens, bool (*brauchbar)(const Gelesen&)) {
+  const Gelesen gelesen = DateiLesen(datei, hoechstens);
+  if (gelesen.status != Lesestatus::Gelesen) return Vergleich::Fehlt;
+  if (gelesen.bytes == text) return Vergleich::Gesichert;
+  if (Aenderungszeit(kopie) > Aenderungszeit(datei) || !brauchbar(gelesen)) return Vergleich::Fehlt;
+  // Where there is no room now, another time.
+  return DateiSchreiben(FreierAltname(datei), text, datei) ? Vergleich::Ungewiss : Vergleich::Gesichert;
+}
+
 /// Leaves in a find what the user needs to be asked about, and removes one that is nothing else.
 bool Hinfaellig(Rettung::Fund& fund) {
-  const Gelesen datei = DateiLesen(fund.datei, grenzen::UserDatei);
-  if (datei.status != Lesestatus::Gelesen) return false;
-  if (datei.bytes != fund.inhalt.user) {
-    if (Aenderungszeit(fund.pfad) > Aenderungszeit(fund.datei) || !IstUserDatei(datei)) return false;
-    // Where there is no room now, another time.
-    if (DateiSchreiben(FreierAltname(fund.datei), fund.inhalt.user, fund.datei)) return true;
+  Rettung::Inhalt& inhalt = fund.inhalt;
+  const Vergleich user = Vergleichen(fund.pfad, inhalt.user, fund.datei, grenzen::UserDatei, IstUserDatei);
+  if (user == Vergleich::Gesichert) inhalt.user.clear();
+  Vergleich plan = Vergleich::Gesichert;
+  if (!inhalt.plan.empty() && !fund.datei.empty()) {
+    plan = Vergleichen(fund.pfad, inhalt.plan, Lageplanpfad(fund.datei), grenzen::Lageplan, IstLageplan);
+    if (plan == Vergleich::Gesichert) inhalt.plan.clear();
   }
-  fund.inhalt.user.clear();
-  if (!fund.inhalt.winkel.empty()) return false;
+  if (user == Vergleich::Ungewiss || plan == Vergleich::Ungewiss) return true;
+  if (user == Vergleich::Fehlt || plan == Vergleich::Fehlt || !inhalt.winkel.empty()) return false;
   std::error_code egal;
   fs::remove(fund.pfad, egal);
   return true;
@@ -124,7 +147,7 @@ Ausgang Schreiben(const fs::path& pfad, const fs::path& vorbild, const std::stri
 }  // namespace
 
 Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, const Inhalt& inhalt) {
-  if (inhalt.user == sicher_ && inhalt.winkel.empty()) {
+  if (inhalt.user == sicher_ && inhalt.winkel.empty() && inhalt.plan.empty()) {
     Aufgeben();
     return Stand::Unnoetig;
   }

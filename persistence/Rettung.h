@@ -16,12 +16,13 @@ class Rettung {
     std::string user;      ///< bytes of the user's file
     std::string winkel{};  ///< bytes of an angle file; empty: that table is saved
     std::filesystem::path winkeldatei{};
+    std::string plan{};  ///< bytes of the plan's file; empty: that plan is saved
     bool operator==(const Inhalt&) const = default;
   };
   struct Fund {
     std::filesystem::path pfad;
     std::filesystem::path datei;  ///< the user's file; empty: a new callsign without a file
-    Inhalt inhalt;                ///< `user` is empty when the file says the same or has a later state
+    Inhalt inhalt;  ///< `user` or `plan` is empty when its file says the same or has a later state
   };
 
   /// `user` is what stands safely in the file, or what nobody will miss.
@@ -36,7 +37,7 @@ class Rettung {
   void Aufgeben();
 
   /// Copies in `verzeichnis` that no running program holds and whose files do not say the same, the newest
-  /// first. Where a later saving has overtaken one, its user's data are put beside the file as "…-alt.dat".
+  /// first. Where a later saving has overtaken one, its data are put beside the file as "…-alt.dat".
   static std::vector<Fund> Suchen(const std::filesystem::path& verzeichnis);
   /// Removes a copy that nobody wants, unless another program has taken it up meanwhile.
   static void Verwerfen(const std::filesystem::path& kopie);

@@ -6,6 +6,7 @@ PAKETE_PROGRAMM=(
   g++ cmake ninja-build                # compiler and build
   qt6-base-dev                         # windows, printing; brings the X11 platform plugin
   libboost1.74-dev                     # areas of the plan
+  nlohmann-json3-dev                   # the plan as a file
   libqpdf-dev                          # title, author and bookmarks of the PDFs
   qt6-wayland                          # platform plugin for desktops without X11
   qt6-translations-l10n                # German texts of the toolkit's own dialogs and menus

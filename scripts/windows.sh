@@ -5,7 +5,8 @@ set -euo pipefail
 cd -P "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/gemeinsam.sh
 
-pakete_installieren cmake ninja-build g++-mingw-w64-x86-64-posix libgtest-dev libboost1.74-dev wine64
+pakete_installieren cmake ninja-build g++-mingw-w64-x86-64-posix libgtest-dev libboost1.74-dev \
+  nlohmann-json3-dev wine64
 frisch=()
 grep -qsxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" build/windows/CMakeCache.txt || frisch=(--fresh)
 cmake --preset windows "${frisch[@]}" ${VESK_WERROR:+"-DVESK_WERROR=$VESK_WERROR"} >/dev/null

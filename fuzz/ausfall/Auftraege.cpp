@@ -13,6 +13,8 @@ namespace vesk::ausfall {
 
 namespace {
 
+const QString AndererPlan = u"anderswo/andere.lageplan"_s;
+
 void Anlegen(const QString& pfad, const QByteArray& bytes) {
   QFile datei(pfad);
   if (!datei.open(QFile::WriteOnly) || datei.write(bytes) != bytes.size()) std::abort();
@@ -64,7 +66,7 @@ void Rettungskopie(const QString& verzeichnis) {
 }
 
 bool Name(const Station& s) {
-  return s.benutzer.Name == Getippt;
+  return s.benutzer.Name == Getippt && s.lageplan.bezugsname == Getippt;
 }
 
 bool Winkel(const Station& s) {
@@ -99,17 +101,19 @@ std::function<void(Lauf&, const QString&)> Oeffnen(const QString& datei) {
 std::vector<Auftrag> Auftraege() {
   using enum Befehl;
   const auto user = u"user.dat"_s;
+  const auto plan = u"user.lageplan"_s;
   const auto andere = u"anderswo/andere.dat"_s;
   const auto ang = u"anderswo/turm.ang"_s;
   const auto pdf = u"anderswo/aus.pdf"_s;
   return {
-      {"Speichern", {user}, Nichts, Befehlen<DateiSpeichern>, Name},
-      {"Speichern unter", {user, andere}, Anderswo, Nach<DateiSpeichernUnter>(andere), Name},
+      {"Speichern", {user, plan}, Nichts, Befehlen<DateiSpeichern>, Name},
+      {"Speichern unter", {user, andere, AndererPlan}, Anderswo, Nach<DateiSpeichernUnter>(andere), Name},
       {"Speichern unter, Datei vorhanden",
-       {user, andere},
+       {user, plan, andere, AndererPlan},
        [=](const QString& v) {
          Anderswo(v);
-         QFile::copy(v + u"/user.dat"_s, v + u'/' + andere);
+         QFile::copy(v + u'/' + user, v + u'/' + andere);
+         QFile::copy(v + u'/' + plan, v + u'/' + AndererPlan);
        },
        Nach<DateiSpeichernUnter>(andere),
        Name},
@@ -129,7 +133,11 @@ std::vector<Auftrag> Auftraege() {
        true,
        false,
        true},
-      {"Datei von anderswo", {user, u"fremd.dat"_s}, AlteFassung, Oeffnen(u"anderswo/fremd.dat"_s), Name},
+      {"Datei von anderswo",
+       {user, plan, u"fremd.dat"_s},
+       AlteFassung,
+       Oeffnen(u"anderswo/fremd.dat"_s),
+       Name},
       {"Rettungskopie",
        {user},
        Nichts,
@@ -143,9 +151,9 @@ std::vector<Auftrag> Auftraege() {
        Alles,
        false,
        true},
-      {"Beenden", {user}, Nichts, Befehlen<Beenden>, Name},
+      {"Beenden", {user, plan}, Nichts, Befehlen<Beenden>, Name},
       {"Ende verlangt",
-       {user},
+       {user, plan},
        Nichts,
        [](Lauf& lauf, const QString&) { lauf.programm.EndeVerlangt(); },
        Name},

@@ -57,6 +57,7 @@ struct Lauf {
     programm.Tun([&](Station& s, const Kataloge&) {
       s.benutzer.Name = text;
       s.winkel.antenne = text;
+      s.lageplan.bezugsname = text;
       s.Datenblattspalten[0].Winkel.fill("3");
       s.UserGeaendert = s.winkel.bearbeitet = true;
       return Meldungen{};

@@ -107,7 +107,8 @@ bool Enthaelt(const Inhalte& inhalte, const QByteArray& bytes) {
 /// What is wrong; empty: nothing.
 std::string Mangel(const Auftrag& auftrag, const Ausgang& gut, const Ausgang& jetzt) {
   bool alleNeu = true;
-  bool bewahrt = jetzt.bewahrt;
+  int getippt = 0;  // files that hold what was typed when nothing fails
+  int davonNeu = 0;
   for (const QString& name : auftrag.ziele) {
     const QByteArray alt = Datei(jetzt.vorher, name);
     const QByteArray neu = OhneZeit(Datei(gut.nachher, name));
@@ -118,8 +119,10 @@ std::string Mangel(const Auftrag& auftrag, const Ausgang& gut, const Ausgang& je
       return name.toStdString() + " ist weder die alte noch die neue Datei";
     if (jetzt.vorher.contains(name) && !jetzt.nachher.contains(name)) return name.toStdString() + " ist weg";
     alleNeu = alleNeu && istNeu;
-    bewahrt = bewahrt || (istNeu && da.contains(Getippt));
+    getippt += neu.contains(Getippt) ? 1 : 0;
+    davonNeu += istNeu && da.contains(Getippt) ? 1 : 0;
   }
+  const bool bewahrt = jetzt.bewahrt || (getippt > 0 && davonNeu == getippt);
   const QByteArray alt = Datei(jetzt.vorher, auftrag.ziele.back());
   if (auftrag.altBleibt && !Enthaelt(jetzt.nachher, alt)) return "die alte Fassung ist verloren";
   if (!alleNeu && !bewahrt) return "was getippt war, ist verloren";

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "fuzz/ausfall/Buehne.h"
+#include "persistence/Lageplandatei.h"
 #include "persistence/UserDatei.h"
 
 using namespace Qt::StringLiterals;
@@ -36,8 +37,8 @@ bool Ganz(const QByteArray& bytes) {
 }
 
 /// The number behind the name: how far the saving has come.
-int Stand(const Station& s) {
-  return std::atoi(s.benutzer.Name.c_str() + std::string_view("Anna ").size());
+int Stand(const std::string& name) {
+  return name.starts_with("Anna ") ? std::stoi(name.substr(5)) : 0;
 }
 
 /// Waits for the first file, then for a random time.
@@ -66,9 +67,15 @@ std::string Mangel(const char* programm, std::mt19937& zufall) {
   if (!Ganz(user)) return "user.dat ist nicht ganz: " + std::to_string(user.size()) + " Bytes";
   Station gespeichert;
   UserDateiLesen(user.toStdString(), gespeichert);
+  const QByteArray bytes = Inhalt(ordner.filePath(u"user.lageplan"_s));
+  const Lageplanlesung plan = LageplanLesen(bytes.toStdString());
+  if (!plan.fehler.empty()) return "user.lageplan ist nicht ganz: " + std::to_string(bytes.size()) + " Bytes";
   Lauf danach(verzeichnis);
   danach.programm.Starten();
-  if (Stand(danach.station) < Stand(gespeichert)) return "ein älterer Stand kommt wieder";
+  if (Stand(danach.station.benutzer.Name) < Stand(gespeichert.benutzer.Name) ||
+      Stand(danach.station.lageplan.bezugsname) < Stand(plan.plan.bezugsname)) {
+    return "ein älterer Stand kommt wieder";
+  }
   return {};
 }
 

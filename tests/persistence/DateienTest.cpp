@@ -30,7 +30,7 @@ TEST(DateiSchreiben, WasNichtGehtHatEinenGrundUndLaesstAllesStehen) {
     const fs::path pfad = ordner / Ersetzt(zeile["pfad"], "{300}", std::string(300, 'x'));
     EXPECT_EQ(DateiSchreiben(pfad, "neu"), zeile["grund"]) << pfad;
     EXPECT_NE(DateiKopieren(ordner / "datei", pfad), std::nullopt) << pfad;
-    EXPECT_NE(Dateistand().Schreiben(pfad, "neu").ausgang, Dateistand::Ausgang::Geschrieben) << pfad;
+    EXPECT_NE(Dateistand(99).Schreiben(pfad, "neu").ausgang, Dateistand::Ausgang::Geschrieben) << pfad;
   }
   EXPECT_EQ(Inhalt(ordner / "datei"), "alt");
   EXPECT_EQ(ordner.Anzahl(), vorher);
@@ -56,8 +56,8 @@ TEST(Dateistand, ZweiProgrammeAnEinerDatei) {
   const Ordner ordner;
   const fs::path pfad = ordner / "user.dat";
   Anlegen(pfad, "0");
-  Dateistand a;
-  Dateistand b;
+  Dateistand a(99);
+  Dateistand b(99);
   a.Lesen(pfad);
   b.Lesen(pfad);
   EXPECT_TRUE(b.AnderswoOffen() && b.AndereArbeitenAn(pfad));
@@ -89,7 +89,7 @@ TEST(Pfade, NamenSindUtf8) {
 TEST(Dateistand, WasDieDateiSeitherWurde) {
   const Ordner ordner;
   const fs::path pfad = ordner / "user.dat";
-  Dateistand stand;
+  Dateistand stand(99);
   EXPECT_EQ(stand.Lesen(pfad).status, Lesestatus::Fehlt);
   Anlegen(pfad, "fremd");
   EXPECT_EQ(stand.Schreiben(pfad, "neu").ausgang, Ausgang::FremdGeaendert) << "came into being";
@@ -110,7 +110,7 @@ TEST(Dateistand, GleichzeitigesSpeichernVerliertNichts) {
   std::atomic<bool> gescheitert = false;
   const auto hundertmalPlusEins = [&](const char* wer) {
     for (int i = 0; i < 100 && !gescheitert;) {
-      Dateistand stand;
+      Dateistand stand(99);
       const int zahl = std::stoi(stand.Lesen(pfad).bytes);
       const Ausgang ausgang = stand.Schreiben(pfad, std::to_string(zahl + 1) + wer).ausgang;
       if (ausgang == Ausgang::Fehler) gescheitert = true;

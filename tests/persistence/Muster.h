@@ -30,4 +30,35 @@ inline Station Musterstation() {
   return s;
 }
 
+/// A plan with everything that a file holds, each value another than where it starts.
+inline Lageplan Musterplan() {
+  Lageplan plan;
+  for (std::size_t i = 0; i < AnzahlPlanarten; ++i) {
+    Planobjekt objekt;
+    objekt.art = static_cast<Planart>(i);
+    objekt.name = "Nr. " + std::to_string(i) + " „Höhe“\n";
+    objekt.punkte = {{0.1, -2}, {1e-7 / 3, 1e4}};
+    plan.objekte.push_back(objekt);
+  }
+  plan.objekte[2].hoehe = 7.25;
+  plan.objekte[2].nutzung = Nutzung::Andere;
+  plan.objekte[4].radius = 3;
+  Planobjekt& antenne = plan.objekte[6];
+  antenne.spalten = 0b1000101;
+  antenne.drehbar = true;
+  antenne.von = -90;
+  antenne.bis = 0.1 + 0.2;
+  antenne.ebene = Winkelebene::Vertikal;
+  plan.bezug = {-3, 4.5};
+  plan.bezugsname = "Grenzstein";
+  plan.geo = Geopunkt{13.4, 52.5};
+  plan.nord = 12;
+  plan.hintergrund =
+      Hintergrund{"Karte \\ä.png", {{{1, 2}, {300, 4000}}}, 55.5, {5, 6}, 0.75, R"({"dpi":96})"};
+  plan.summe = true;
+  plan.format = Planformat::A3;
+  plan.massstab = 250;
+  return plan;
+}
+
 }  // namespace vesk
