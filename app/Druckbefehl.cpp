@@ -13,9 +13,11 @@
 #include "engine/Zahlen.h"
 #include "persistence/Dateigrenzen.h"
 #include "persistence/Katalogdateien.h"
+#include "persistence/Lageplandatei.h"
 #include "persistence/UserDatei.h"
 #include "persistence/Winkeldatei.h"
 #include "print/Pdf.h"
+#include "print/Svg.h"
 #include "station/Optionen.h"
 #include "station/Papiere.h"
 #include "station/Text.h"
@@ -29,8 +31,8 @@ namespace fs = std::filesystem;
 namespace {
 
 /// By the order of Papierart resp. Winkelkurve.
-constexpr std::array Arten = {"mappe",    "antrag", "datenblatt", "regtp",
-                              "benutzer", "winkel", "rechenweg",  "diagramme"};
+constexpr std::array Arten = {"mappe",  "antrag",    "datenblatt", "regtp",    "benutzer",
+                              "winkel", "rechenweg", "diagramme",  "lageplan", "blockbild"};
 constexpr std::array Kurven = {"ohne", "306", "vde"};
 
 template <typename Wahl, std::size_t anzahl>
@@ -67,7 +69,27 @@ Station StationLesen(const fs::path& pfad, const Kataloge& kataloge) {
   s.benutzer.Klasse = Grossbuchstaben(s.benutzer.Klasse);
   s.UserDatei = name;
   s.UserVerzeichnis = PfadZumZeigen(fs::absolute(pfad).parent_path());
+  s.Arbeitsverzeichnis = PfadAlsUtf8(fs::absolute(pfad).parent_path());
   return s;
+}
+
+bool MitLageplan(Papierart art) {
+  return art == Papierart::Mappe || art == Papierart::Antrag || art == Papierart::Lageplan;
+}
+
+/// What lies beside the user's file. Returns what was put right in it.
+std::string LageplanDazulesen(const fs::path& userdatei, Station& s) {
+  const fs::path pfad = Lageplanpfad(userdatei);
+  const std::string name = PfadAlsUtf8(pfad.filename());
+  const Gelesen datei = DateiLesen(pfad, grenzen::Lageplan);
+  if (datei.status == Lesestatus::Fehlt) return {};
+  if (const Fehlergrund grund = WarumOhneInhalt(name, datei)) throw std::runtime_error(*grund);
+  Lageplanlesung lesung = LageplanLesen(datei.bytes);
+  if (!lesung.fehler.empty()) {
+    throw std::runtime_error("Die Datei " + name + " konnte nicht gelesen werden.\n" + lesung.fehler);
+  }
+  s.lageplan = std::move(lesung.plan);
+  return lesung.hinweis.empty() ? lesung.hinweis : lesung.hinweis + '\n';
 }
 
 /// The angle page shows the file's table, with the power of a column.
@@ -110,8 +132,12 @@ void ZielPruefen(const fs::path& nach, std::initializer_list<fs::path> gelesene)
   for (const fs::path& datei : gelesene) {
     std::error_code keineAntwort;
     if (!fs::equivalent(nach, datei, keineAntwort)) continue;
-    throw Eingabefehler("--nach: Das PDF würde „" + PfadAlsUtf8(datei.filename()) + "“ überschreiben.");
+    throw Eingabefehler("--nach: Die Ausgabe würde „" + PfadAlsUtf8(datei.filename()) + "“ überschreiben.");
   }
+}
+
+bool AlsSvg(const Druckbefehl& befehl) {
+  return befehl.nach.endsWith(u".svg"_s, Qt::CaseInsensitive);
 }
 
 /// SOURCE_DATE_EPOCH makes papers that are the same bit for bit.
@@ -143,7 +169,8 @@ class OhneBildschirm {
   std::optional<QGuiApplication> anwendung_;
 };
 
-const char* WarumKeineSeite(const Station& s) {
+const char* WarumKeineSeite(const Station& s, Papierart art) {
+  if (art == Papierart::Lageplan) return "Neben der Benutzerdatei liegt kein Lageplan.";
   return HatWinkeltabelle(s)
              ? "Für diese Sicherheitsabstände ist bei der Frequenz kein Grenzwert festgelegt; es gibt "
                "kein Winkeldiagramm davon."
@@ -175,6 +202,9 @@ Druckbefehl DruckbefehlLesen(std::span<const std::string> argumente) {
   const auto text = [&](const char* option) { return QString::fromStdString(Wert(optionen, option)); };
   befehl.datei = text("datei");
   befehl.nach = text("nach");
+  if (AlsSvg(befehl) && befehl.papiere.art != Papierart::Lageplan) {
+    throw Eingabefehler("--nach: Als SVG entsteht nur der Lageplan (--art lageplan), alles andere als PDF.");
+  }
   befehl.winkeldatei = text("winkeldatei");
   befehl.verzeichnis = text("verzeichnis");
   return befehl;
@@ -184,23 +214,29 @@ std::string PapiereSchreiben(const Druckbefehl& befehl) {
   const OhneBildschirm bildschirm;
   const fs::path nach = AlsPfad(befehl.nach);
   const fs::path verzeichnis = Katalogverzeichnis(befehl.verzeichnis);
-  ZielPruefen(nach, {AlsPfad(befehl.datei), AlsPfad(befehl.winkeldatei), verzeichnis / "Kabel.txt",
-                     verzeichnis / "Antennen.txt"});
+  const fs::path userdatei = AlsPfad(befehl.datei);
+  ZielPruefen(nach, {userdatei, Lageplanpfad(userdatei), AlsPfad(befehl.winkeldatei),
+                     verzeichnis / "Kabel.txt", verzeichnis / "Antennen.txt"});
   Meldungen meldungen;
   const Kataloge kataloge = KatalogeLesen(verzeichnis, meldungen);
-  Station s = StationLesen(AlsPfad(befehl.datei), kataloge);
+  Station s = StationLesen(userdatei, kataloge);
+  std::string maengel;
+  if (MitLageplan(befehl.papiere.art)) maengel = LageplanDazulesen(userdatei, s);
+  if (const auto& bild = s.lageplan.hintergrund) {
+    ZielPruefen(nach, {userdatei.parent_path() / PfadAusUtf8(bild->datei)});
+  }
   if (!befehl.winkeldatei.isEmpty()) WinkelseiteLesen(AlsPfad(befehl.winkeldatei), s);
 
   const QDateTime zeit = Papierzeit();
   Papierauftrag auftrag = befehl.papiere;
   auftrag.datum = zeit.date();
   const Mappe mappe = MappeBilden(s, kataloge, auftrag);
-  if (Seitenzahl(mappe) == 0) throw std::runtime_error(WarumKeineSeite(s));
-  if (const Fehlergrund grund = DateiSchreiben(nach, Pdf(mappe, zeit).toStdString())) {
+  if (Seitenzahl(mappe) == 0) throw std::runtime_error(WarumKeineSeite(s, auftrag.art));
+  const QByteArray bytes = AlsSvg(befehl) ? Svg(mappe, 0) : Pdf(mappe, zeit);
+  if (const Fehlergrund grund = DateiSchreiben(nach, bytes.toStdString())) {
     throw std::runtime_error("Die Datei " + PfadZumZeigen(nach) + " konnte nicht geschrieben werden.\n" +
                              *grund);
   }
-  std::string maengel;
   for (const Meldung& meldung : meldungen) maengel += meldung.hinweis.text + '\n';
   return maengel;
 }

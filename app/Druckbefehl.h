@@ -21,9 +21,9 @@ struct Druckbefehl {
 /// Reads the arguments after "drucken". Throws Eingabefehler.
 Druckbefehl DruckbefehlLesen(std::span<const std::string> argumente);
 
-/// Writes the PDF; what it reads stays as it is. Returns what is wrong with the catalogues, one sentence a
-/// line. Needs no display. Throws std::runtime_error with the German message, and Eingabefehler when the PDF
-/// would take the place of what is read.
+/// Writes the PDF, or as SVG the first page; what it reads stays as it is. Returns what is wrong with
+/// catalogues and plan, one sentence a line. Needs no display. Throws std::runtime_error with the German
+/// message, and Eingabefehler when what it writes would take the place of what is read.
 std::string PapiereSchreiben(const Druckbefehl& befehl);
 
 }  // namespace vesk

@@ -82,6 +82,8 @@ class Pruefgeraet : public QPaintDevice {
 /// Every text of a station that a paper can show, in the order in which the bytes number them.
 std::vector<std::string*> Texte(Station& s, Kataloge& k) {
   std::vector<std::string*> texte{&s.Fusszeile, &s.UserDatei, &s.winkel.datei, &s.winkel.herkunft};
+  for (Planobjekt& objekt : s.lageplan.objekte) texte.push_back(&objekt.name);
+  if (!s.lageplan.objekte.empty()) texte.push_back(&s.lageplan.bezugsname);
   for (const auto feld : Benutzerfelder) texte.push_back(&(s.benutzer.*feld));
   for (const auto text : Eingabetexte) texte.push_back(&(s.werte.*text));
   Winkelseite& w = s.winkel;
@@ -101,6 +103,8 @@ std::vector<std::string*> Texte(Station& s, Kataloge& k) {
   }
   return texte;
 }
+
+constexpr std::size_t Papierarten = 10;
 
 void Malen(const Mappe& mappe, std::size_t seite, bool bild) {
   const QSizeF blatt = Blattgroesse(Seitenformat(mappe, seite));
@@ -125,6 +129,33 @@ Station Grundlage(std::size_t spalten) {
   return s;
 }
 
+/// An object of each kind, sound as long as the bytes do not shift its corners or its figures.
+Lageplan Probeplan(Vorrat vorrat) {
+  const auto versatz = [&] { return double(vorrat.Bits<std::int16_t>()) / 8; };
+  Lageplan plan;
+  plan.summe = vorrat.Ja();
+  plan.format = vorrat.Ja() ? Planformat::A3 : Planformat::A4;
+  plan.massstab = Planmassstaebe.at(vorrat.Wahl(Planmassstaebe.size()));
+  const bool drehbar = vorrat.Ja();
+  const auto ebene = static_cast<Winkelebene>(vorrat.Wahl(3));
+  for (std::size_t i = 0; i < AnzahlPlanarten; ++i) {
+    Planobjekt objekt{.art = static_cast<Planart>(i), .hoehe = std::abs(versatz()), .radius = 2};
+    const double ecke = 3 * double(i);
+    objekt.punkte = {{ecke, ecke}, {ecke + 9, ecke}, {ecke + 9, ecke + 7}, {ecke, ecke + 7}};
+    if (!Artzeile(objekt.art).umriss) objekt.punkte.resize(1);
+    for (Punkt& punkt : objekt.punkte) punkt = {punkt.x + versatz(), punkt.y + versatz()};
+    objekt.spalten = 0x7F;
+    objekt.drehbar = drehbar;
+    objekt.von = versatz() / 16;
+    objekt.bis = versatz() / 16;
+    objekt.ebene = ebene;
+    plan.objekte.push_back(std::move(objekt));
+  }
+  plan.nord = versatz() / 32;
+  plan.bezugsname = "Grenzstein";
+  return Planueberschreitung(plan) ? Lageplan() : plan;
+}
+
 void Fuzzen(Vorrat& vorrat, std::size_t laenge) {
   // One document each time, and of the thick ones only a page. Those that hold all others come seldom.
   const std::size_t art = vorrat.Wahl(32);
@@ -136,9 +167,12 @@ void Fuzzen(Vorrat& vorrat, std::size_t laenge) {
   OptionenVorbelegen(s, k);
   s.papiere.passend = vorrat.Ja();
   s.modus = vorrat.Ja() ? Modus::Leistung : Modus::Abstand;
-  s.papiere.art = static_cast<Papierart>(art < 8 ? art : 2 + art % 6);
+  s.papiere.art = static_cast<Papierart>(art < Papierarten ? art : 2 + art % (Papierarten - 2));
   if (kurve < 3) s.papiere.kurve = static_cast<Winkelkurve>(kurve);
   vorrat.Zeile();
+  if (const std::string plan = vorrat.Zeile(); !plan.empty()) {
+    s.lageplan = Probeplan({reinterpret_cast<const std::uint8_t*>(plan.data()), plan.size()});
+  }
   const std::vector<std::string*> texte = Texte(s, k);
   while (!vorrat.Leer()) {
     const std::size_t stelle = vorrat.Wahl(256);
@@ -146,7 +180,8 @@ void Fuzzen(Vorrat& vorrat, std::size_t laenge) {
   }
   const Mappe mappe = MappeBilden(s, k, AuftragAus(s, QDate(2026, 3, 4)));
   const std::size_t seiten = Seitenzahl(mappe);
-  Pruefen(seiten <= 60 + laenge / 8 && (seiten > 0 || s.papiere.art == Papierart::Winkel));
+  const bool darfFehlen = s.papiere.art == Papierart::Winkel || s.papiere.art == Papierart::Lageplan;
+  Pruefen(seiten <= 60 + laenge / 8 && (seiten > 0 || darfFehlen));
   if (seiten > 0) Malen(mappe, seite % seiten, bild);
 }
 
@@ -167,7 +202,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 }
 
 /// A paper of a station that holds any texts: choices in the first line, then a line for each text, which
-/// begins with its place.
+/// begins with its place. The second line is the site plan.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
   vesk::Vorrat vorrat(daten, laenge);
   vesk::Fuzzen(vorrat, laenge);

@@ -25,6 +25,11 @@ Dokument Benutzerblatt(const Station& s);
 Dokument Winkeldiagramm(const Winkelblatt& blatt, Winkelkurve kurve, Massstabswunsch massstab);
 /// One page for each used column.
 Dokument Rechenwege(const Station& s, const Kataloge& k);
+/// The plot with its zones at true scale, seen from the side where a zone leaves the controlled area, and the
+/// zones' figures; without a plan no page.
+Dokument Lageplandokument(const Station& s, const QDate& datum);
+/// The way of the power from transmitter to antenna, column by column.
+Dokument Stationsblockbild(const Station& s, const Kataloge& k);
 /// The charts of the main window's inputs; without these, of the columns'.
 Dokument Diagramme(const Station& s, const Kataloge& k);
 

@@ -77,8 +77,12 @@ std::vector<Dokument> Winkeldokumente(const Station& s, const Papierauftrag& auf
 /// Everything behind the application.
 std::vector<Dokument> Unterlagen(const Station& s, const Kataloge& k, const Papierauftrag& auftrag) {
   std::vector<Dokument> alle{Benutzerblatt(s), Formblatt(s, k), FormblattRegTP(s)};
-  if (!BenutzteSpalten(s).empty()) alle.push_back(Rechenwege(s, k));
+  if (!BenutzteSpalten(s).empty()) {
+    alle.push_back(Stationsblockbild(s, k));
+    alle.push_back(Rechenwege(s, k));
+  }
   for (Dokument& dokument : Winkeldokumente(s, auftrag)) alle.push_back(std::move(dokument));
+  if (!LageplanLeer(s.lageplan)) alle.push_back(Lageplandokument(s, auftrag.datum));
   return alle;
 }
 
@@ -104,6 +108,10 @@ std::vector<Dokument> Dokumente(const Station& s, const Kataloge& k, const Papie
       return {Rechenwege(s, k)};
     case Papierart::Diagramme:
       return {Diagramme(s, k)};
+    case Papierart::Lageplan:
+      return {Lageplandokument(s, auftrag.datum)};
+    case Papierart::Blockbild:
+      return {Stationsblockbild(s, k)};
     case Papierart::Mappe:
       break;
   }

@@ -47,14 +47,14 @@ struct Papierauftrag {
   Papierart art = Papierart::Mappe;
   std::optional<Winkelkurve> kurve;  ///< of the angle diagrams; none: all that have a limit
   Massstabswunsch massstab;          ///< of the angle diagrams
-  QDate datum;                       ///< of the cover page
+  QDate datum;                       ///< of cover page and plan
 };
 
 /// What the preview of the station shows.
 Papierauftrag AuftragAus(const Station& s, const QDate& datum);
 
-/// The pages of a station as it is now. An angle diagram without a table to show has no page; no other
-/// document is ever empty.
+/// The pages of a station as it is now. An angle diagram without a table to show has no page, nor has a plot
+/// that was not drawn; no other document is ever empty.
 Mappe MappeBilden(const Station& s, const Kataloge& k, const Papierauftrag& auftrag);
 
 }  // namespace vesk

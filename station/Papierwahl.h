@@ -4,7 +4,18 @@
 namespace vesk {
 
 /// What can be printed: the binder of all documents, one of them, or the charts, which are in no binder.
-enum class Papierart { Mappe, Antrag, Datenblatt, RegTP, Benutzer, Winkel, Rechenweg, Diagramme };
+enum class Papierart {
+  Mappe,
+  Antrag,
+  Datenblatt,
+  RegTP,
+  Benutzer,
+  Winkel,
+  Rechenweg,
+  Diagramme,
+  Lageplan,
+  Blockbild
+};
 
 /// The distances that an angle diagram shows.
 enum class Winkelkurve { OhneHSM, HSM306, HSMvde };

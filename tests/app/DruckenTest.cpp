@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "app/Kommandozeile.h"
+#include "persistence/Lageplandatei.h"
 #include "persistence/UserDatei.h"
 #include "persistence/Winkeldatei.h"
 #include "tests/Tabelle.h"
@@ -15,6 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace vesk {
 namespace {
+
+Lageplan Plan() {
+  Lageplan plan;
+  plan.objekte.emplace_back().punkte = {{0, 0}, {9, 0}, {9, 8}};
+  return plan;
+}
 
 /// A directory with files of all kinds, in which the program is called.
 struct Drucken : testing::Test {
@@ -30,6 +37,9 @@ struct Drucken : testing::Test {
     const std::pair<const char*, std::string> dateien[] = {
         {"user.dat", user},
         {"ohne.dat", ohne},
+        {"user.lageplan", LageplanBytes(Plan())},
+        {"kaputt.dat", user},
+        {"kaputt.lageplan", "{"},
         {"Kabel.txt", Inhalt(VESK_DATEN "/Kabel.txt")},
         {"v240.dat", Ersetzt(user, "\"251\"", "\"240\"")},
         {"v210.dat", Ersetzt(user, "\"251\"", "\"210\"")},
@@ -95,6 +105,9 @@ TEST_F(Drucken, GleicheDatenGebenGleicheBytesUndFehlerLassenSieStehen) {
   EXPECT_EQ(Rufen("--art mappe --datei halb.dat --nach aus.pdf"), 1);
   EXPECT_TRUE(Inhalt(ordner / "aus.pdf") == pdf);
 
+  EXPECT_EQ(Rufen("--art lageplan --datei user.dat --nach Plan.SVG"), 0) << gemeldet;
+  EXPECT_TRUE(Inhalt(ordner / "Plan.SVG").starts_with("<?xml"));
+
   const std::pair<std::string, const char*> ziele[] = {{"keins/aus.pdf", "Das Verzeichnis gibt es nicht."},
                                                        {".", "Verzeichnis"},
                                                        {"/dev/full", "keine gewöhnliche"}};
@@ -103,7 +116,7 @@ TEST_F(Drucken, GleicheDatenGebenGleicheBytesUndFehlerLassenSieStehen) {
     EXPECT_NE(gemeldet.find(meldung), std::string::npos) << gemeldet;
   }
   std::filesystem::create_symlink("user.dat", ordner / "auch.dat");
-  for (const char* ziel : {"./user.dat", "auch.dat", "Kabel.txt", "h-14.ang"}) {
+  for (const char* ziel : {"./user.dat", "auch.dat", "user.lageplan", "Kabel.txt", "h-14.ang"}) {
     EXPECT_EQ(Rufen(zeile + ziel + std::string(" --winkeldatei h-14.ang")), 2) << ziel;
     EXPECT_NE(gemeldet.find("überschreiben"), std::string::npos) << gemeldet;
   }

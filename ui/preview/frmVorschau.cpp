@@ -35,6 +35,9 @@ constexpr Feldhilfe Tooltips[] = {
     {u"lstOffen", u"Doppelklick oder Enter führt zu der Stelle."},
 };
 
+constexpr QStringView KeinPlan =
+    u"Der Lageplan ist noch nicht gezeichnet (Hauptfenster, „Bearbeiten“, „Lageplan“).";
+
 }  // namespace
 
 frmVorschau::frmVorschau(Ablauf& ablauf, const Kataloge& kataloge, QWidget* eltern)
@@ -122,6 +125,7 @@ void frmVorschau::Neubilden() {
   lstSeiten->setCurrentRow(std::max(seite, 0));
   SeitenzahlZeigen(zahl);
   if (zahl > 0) return SeiteZeigen(std::max(seite, 0));
+  if (gezeigt_->papiere.art == Papierart::Lageplan) return rolSeite->Leeren(KeinPlan.toString());
   rolSeite->Leeren(HatWinkeltabelle(*gezeigt_)
                        ? u"Für diese Sicherheitsabstände gibt es bei der Frequenz keinen Grenzwert."_s
                        : u"Keine Spalte und keine Seite der Optionen hat eine Winkeltabelle."_s);

@@ -43,7 +43,8 @@ struct Eintrag {
 constexpr Eintrag Papierliste[] = {
     {double(Papierart::Mappe), u"Alle Unterlagen"},      {double(Papierart::Antrag), u"Antrag"},
     {double(Papierart::Benutzer), u"Persönliche Daten"}, {double(Papierart::Datenblatt), u"Datenblatt"},
-    {double(Papierart::RegTP), u"Formblatt RegTP"},      {double(Papierart::Rechenweg), u"Rechenweg"},
+    {double(Papierart::RegTP), u"Formblatt RegTP"},      {double(Papierart::Blockbild), u"Stationsblockbild"},
+    {double(Papierart::Rechenweg), u"Rechenweg"},        {double(Papierart::Lageplan), u"Lageplan"},
     {double(Papierart::Winkel), u"Winkeldiagramm"},      {double(Papierart::Diagramme), u"Diagramme"},
 };
 constexpr Eintrag Kurvenliste[] = {
