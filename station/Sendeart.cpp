@@ -115,9 +115,11 @@ Zykluswahl ZyklusAusText(std::string_view text) {
 }
 
 float FaktorAusText(std::string_view text) {
+  // Two of them multiplied must not vanish: without power there is no distance to keep.
+  constexpr float Kleinster = 1e-15F;
   try {
     const float wert = Zahl(text);
-    return wert > 0 && wert <= 1 ? wert : 1.0F;
+    return wert >= Kleinster && wert <= 1 ? wert : 1.0F;
   } catch (const Laufzeitfehler&) {
     return 1.0F;
   }

@@ -51,7 +51,8 @@ struct Zykluswahl {
 };
 Zykluswahl ZyklusAusText(std::string_view text);
 
-/// A stored factor. What cannot reduce a power (0 or less, above 1, no number) counts as full power.
+/// A stored factor. What cannot reduce a power (next to nothing or less, above 1, no number) counts as full
+/// power.
 float FaktorAusText(std::string_view text);
 
 /// A factor below 1 obliges the operator.

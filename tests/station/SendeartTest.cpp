@@ -61,7 +61,7 @@ TEST(Sendeart, ZyklusAusDemSatz) {
     EXPECT_EQ(ZyklusAusText(text).option, -1) << text;
     EXPECT_EQ(ZyklusAusText(text).faktor, faktor) << text;
   }
-  for (const char* text : {"", "1", "0", "-0.5", "1.5", "1e99", "abc"}) {
+  for (const char* text : {"", "1", "0", "-0.5", "1e-40", "1.5", "1e99", "abc"}) {
     EXPECT_EQ(ZyklusAusText(text).option, 5) << text;
     EXPECT_EQ(FaktorAusText(text), 1.0F) << text;
   }
