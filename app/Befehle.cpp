@@ -2,6 +2,7 @@
 #include "app/Desktoplage.h"
 #include "app/Papierablauf.h"
 #include "app/Pfadtext.h"
+#include "app/Planablauf.h"
 #include "app/Programm.h"
 #include "persistence/Katalogdateien.h"
 #include "persistence/Tips.h"
@@ -11,12 +12,14 @@
 #include "station/Baender.h"
 #include "station/Diagramme.h"
 #include "station/Haupthandlungen.h"
+#include "station/Lageplanhandlungen.h"
 #include "ui/bands/frmBaender.h"
 #include "ui/charts/frmDiagramme.h"
 #include "ui/datasheet/frmDatenblatt.h"
 #include "ui/info/frmInfo.h"
 #include "ui/info/frmTip.h"
 #include "ui/options/frmOptions.h"
+#include "ui/plan/frmLageplan.h"
 #include "ui/power/frmLstg.h"
 #include "ui/user/frmUser.h"
 
@@ -64,6 +67,10 @@ void Programm::Befehlen(Befehl befehl) {
       return datei([this] { WinkelSpeichern(station_, *this); });
     case Befehl::WinkelSpeichernUnter:
       return datei([this] { WinkelSpeichernUnter(station_, *this); });
+    case Befehl::GeojsonEinlesen:
+      return Tun([this](Station& s, const Kataloge& k) { return vesk::GeojsonEinlesen(s, k, *this); });
+    case Befehl::HintergrundWaehlen:
+      return Tun([this](Station& s, const Kataloge& k) { return vesk::HintergrundWaehlen(s, k, *this); });
     case Befehl::PdfSpeichern:
       return PdfSpeichern(Papiere(), plattform_);
     case Befehl::PapiereDrucken:
@@ -88,6 +95,9 @@ void Programm::Befehlen(Befehl befehl) {
     case Befehl::DiagrammeZeigen:
       Tun(DiagrammeOeffnen);
       return Diagramme().activateWindow();
+    case Befehl::LageplanZeigen:
+      Tun(LageplanOeffnen);
+      return Lageplan().activateWindow();
     case Befehl::TipZeigen:
       return TipZeigen();
     case Befehl::InfoZeigen:
@@ -156,6 +166,10 @@ void Programm::Hinzeigen(const Papierort& ort) {
   Tun(Mit(ZumBefund, ort));
   if (const auto* feld = std::get_if<BeimBenutzer>(&ort)) return Benutzerfenster().Hinzeigen(*feld);
   if (const auto* zelle = std::get_if<InZelle>(&ort)) return Datenblatt().Hinzeigen(*zelle);
+  if (const auto* plan = std::get_if<ImLageplan>(&ort)) {
+    Lageplan().activateWindow();
+    return Lageplan().Hinzeigen(*plan);
+  }
   Optionen().Hinzeigen();
 }
 

@@ -23,6 +23,7 @@
 #include "ui/info/frmInfo.h"
 #include "ui/info/frmTip.h"
 #include "ui/options/frmOptions.h"
+#include "ui/plan/frmLageplan.h"
 #include "ui/power/frmLstg.h"
 #include "ui/preview/frmVorschau.h"
 #include "ui/user/frmUser.h"
@@ -97,8 +98,8 @@ Programm::~Programm() {
   beendet_ = true;
   disconnect(qGuiApp, nullptr, this, nullptr);
   const std::initializer_list<QWidget*> fenster = {
-      optionen_.get(), datenblatt_.get(), benutzer_.get(), leistung_.get(), vorschau_.get(),
-      baender_.get(),  diagramme_.get(),  tip_.get(),      info_.get(),     &hauptfenster_};
+      optionen_.get(),  datenblatt_.get(), benutzer_.get(), leistung_.get(), vorschau_.get(), baender_.get(),
+      diagramme_.get(), lageplan_.get(),   tip_.get(),      info_.get(),     &hauptfenster_};
   for (QWidget* jedes : fenster) {
     if (jedes != nullptr) jedes->hide();
   }
@@ -167,6 +168,10 @@ frmBaender& Programm::Baender() {
 
 frmDiagramme& Programm::Diagramme() {
   return Angelegt(diagramme_, plattform_.speicher, station_, *this, kataloge_);
+}
+
+frmLageplan& Programm::Lageplan() {
+  return Angelegt(lageplan_, plattform_.speicher, station_, *this);
 }
 
 frmLstg& Programm::Leistungsumrechnung() {
@@ -250,6 +255,7 @@ void Programm::Zeigen() {
   zeigen(vorschau_, station_.fenster.vorschau, &Programm::Vorschau);
   zeigen(baender_, station_.fenster.baender, &Programm::Baender);
   zeigen(diagramme_, station_.fenster.diagramme, &Programm::Diagramme);
+  zeigen(lageplan_, station_.fenster.lageplan, &Programm::Lageplan);
   if (leistung_) leistung_->Zeigen(station_);
 }
 

@@ -21,6 +21,7 @@ namespace vesk {
 class frmBaender;
 class frmDatenblatt;
 class frmDiagramme;
+class frmLageplan;
 class frmInfo;
 class frmLstg;
 class frmOptions;
@@ -56,6 +57,7 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   frmVorschau& Vorschau();
   frmBaender& Baender();
   frmDiagramme& Diagramme();
+  frmLageplan& Lageplan();
 
   void Tun(const Handlung& handlung) override;
   void TunBeimTippen(const QObject& feld, const Handlung& handlung) override;
@@ -103,6 +105,7 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   std::unique_ptr<frmVorschau> vorschau_;
   std::unique_ptr<frmBaender> baender_;
   std::unique_ptr<frmDiagramme> diagramme_;
+  std::unique_ptr<frmLageplan> lageplan_;
   std::unique_ptr<frmTip> tip_;
   std::unique_ptr<frmInfo> info_;
   Dateiablauf dateien_;

@@ -1,6 +1,6 @@
-// vesk_bilder CATALOGUES TARGET: plays the first chapter of the manual in the real program and leaves the
-// pictures of it in the directory TARGET. Ends with 1 when a step of the chapter does not go, with 3 where no
-// pictures can be made.
+// vesk_bilder CATALOGUES TARGET: plays the first chapter of the manual and its plan in the real program and
+// leaves the pictures of them in the directory TARGET. Ends with 1 when a step of the chapter does not go,
+// with 3 where no pictures can be made.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -64,6 +64,7 @@ class Spiel {
   void WeitereBaender();
   void Datenblatt();
   void Unterlagen();
+  void Lageplan(const QString& beispiele);
 
  private:
   static void Warten() {
@@ -211,6 +212,14 @@ void Spiel::Unterlagen() {
   Bild(u"unterlagen"_s, u"frmVorschau"_s, {860, 620});
 }
 
+/// One of the examples that come with the program, instead of the station above.
+void Spiel::Lageplan(const QString& beispiele) {
+  buehne_.boxen.angekuendigt << u"User Datei laden"_s;
+  programm_.DateiOeffnen(beispiele + u"/Reihenhaus.dat"_s);
+  Menue(u"frmVesk"_s, u"mnuLageplan"_s);
+  Bild(u"lageplan"_s, u"frmLageplan"_s, {1000, 660});
+}
+
 void Ansehen() {
   QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
   QApplication::setPalette(QApplication::style()->standardPalette());
@@ -235,6 +244,7 @@ void Spielen(const QString& kataloge, const QString& ziel) {
         &Spiel::WeitereBaender, &Spiel::Datenblatt, &Spiel::Unterlagen}) {
     (spiel.*schritt)();
   }
+  spiel.Lageplan(kataloge + u"/beispiele"_s);
 }
 
 }  // namespace

@@ -20,10 +20,10 @@ const QStringList Texte = {u"DL1ABC"_s,    u"<b>x</b>&amp;\""_s, u"Î©\u202eohaðŸ
 const QList<Qt::Key> Tasten = {Qt::Key_Tab,    Qt::Key_Backtab,   Qt::Key_Return, Qt::Key_Up,
                                Qt::Key_Down,   Qt::Key_Left,      Qt::Key_Space,  Qt::Key_Escape,
                                Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_F1,     Qt::Key_F5,
-                               Qt::Key_Home,   Qt::Key_PageDown};
+                               Qt::Key_Home,   Qt::Key_PageDown,  Qt::Key_Insert, Qt::Key_F2};
 const QList<Qt::Key> Griffe = {Qt::Key_Z,      Qt::Key_Y, Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_X,
                                Qt::Key_B,      Qt::Key_D, Qt::Key_N, Qt::Key_O, Qt::Key_S, Qt::Key_P,
-                               Qt::Key_Return, Qt::Key_1, Qt::Key_2, Qt::Key_7};
+                               Qt::Key_Return, Qt::Key_1, Qt::Key_2, Qt::Key_7, Qt::Key_L, Qt::Key_0};
 
 QString Name(const QWidget* control) {
   return control->window()->objectName() + u'.' + control->objectName();
@@ -79,6 +79,10 @@ void Affe::Maus(QWidget* ziel) {
     QTest::mousePress(ziel, taste, {}, stelle);
     QTest::mouseMove(ziel, stelle + QPoint(60, 20));
     QTest::mouseRelease(ziel, taste, {}, stelle + QPoint(60, 20));
+  } else if (art == 2) {
+    QWheelEvent rad(stelle, ziel->mapToGlobal(stelle), {}, {0, zufall_.Einmal(2) ? 240 : -240}, Qt::NoButton,
+                    {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(ziel, &rad);
   } else {
     QTest::mouseClick(ziel, taste, {}, stelle);
   }

@@ -7,7 +7,9 @@
 #include "fuzz/affe/Affe.h"
 #include "fuzz/affe/Buehne.h"
 #include "fuzz/affe/Pruefung.h"
+#include "persistence/Lageplandatei.h"
 #include "persistence/UserDatei.h"
+#include "station/Lageplanhandlungen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,8 +17,26 @@ namespace vesk::affe {
 
 namespace {
 
-/// What a program that died had in its user's data and not in their file.
+/// What a program that died had in its user's data or plan and not in their files.
 using Nachlass = std::optional<std::string>;
+
+std::string Daten(const Station& s) {
+  return UserDateiSchreiben(s) + LageplanBytes(s.lageplan);
+}
+
+/// Somebody draws something.
+void Zeichnen(Zufall& zufall, Programm& programm, Lageplan plan) {
+  Planobjekt objekt;
+  objekt.art = static_cast<Planart>(zufall(AnzahlPlanarten));
+  objekt.name = "Nr. " + std::to_string(plan.objekte.size());
+  const std::size_t ecken = Artzeile(objekt.art).umriss ? 3 + zufall(4) : 1;
+  for (std::size_t i = 0; i < ecken; ++i) {
+    objekt.punkte.push_back({static_cast<double>(zufall(400)) / 10, static_cast<double>(zufall(400)) / 10});
+  }
+  objekt.spalten = zufall(1U << AnzahlSpalten);
+  plan.objekte.push_back(objekt);
+  programm.Tun(Mit(LageplanSetzen, plan));
+}
 
 /// One start of the program up to its end, its death, or the last event.
 QString EinProgramm(Zufall& zufall, Ordner& ordner, Buehne& buehne, int ereignisse, Nachlass& nachlass,
@@ -29,9 +49,10 @@ QString EinProgramm(Zufall& zufall, Ordner& ordner, Buehne& buehne, int ereignis
   QObject::connect(&programm, &Programm::beendet, &programm, [&] { beendet = true; });
   buehne.boxen.zurueckholen = nachlass.has_value();
   programm.Starten();
-  if (nachlass && UserDateiSchreiben(station) != *nachlass) return u"Was vor dem Tod getippt war, fehlt."_s;
+  if (nachlass && Daten(station) != *nachlass) return u"Was vor dem Tod getippt war, fehlt."_s;
   nachlass.reset();
   ++zaehler.programme;
+  if (!beendet && zufall.Einmal(2)) Zeichnen(zufall, programm, station.lageplan);
   Affe affe(zufall, ordner);
   const int ende = zaehler.ereignisse + 20 + static_cast<int>(zufall(200));
   while (!beendet && zaehler.ereignisse < ereignisse) {
@@ -40,7 +61,7 @@ QString EinProgramm(Zufall& zufall, Ordner& ordner, Buehne& buehne, int ereignis
       Schreiben(tod ? u"Tod"_s : u"Ende"_s);
       if (tod) {
         programm.RettungSichern();
-        if (station.UserGeaendert) nachlass = UserDateiSchreiben(station);
+        if (station.UserGeaendert) nachlass = Daten(station);
         return {};
       }
       programm.Hauptfenster().close();

@@ -19,7 +19,7 @@ namespace {
 const QString AndereZitate =
     u"|Ja|Nein|ja|nein|ND|alle|dB|Erde|Dipol|Helix|ANSI|h-|v-|jetzt|HSM|yagi 144|bitte nichts ändern|"
     "Die Datei wird vom Programm erstellt|Angaben zur Gewährleistung des Personenschutzes|"_s;
-const QRegularExpression Dateiname(u"^[-\\w…]*\\.(dat|ang|txt|TXT|bak)$"_s);
+const QRegularExpression Dateiname(u"^[-\\w…]*\\.(dat|ang|lageplan|txt|TXT|bak)$"_s);
 
 QString Glatt(QString text) {
   return text.remove(u'&').remove(u'…').simplified();
@@ -29,7 +29,7 @@ struct Handbuch : testing::Test, Verzeichnis, Lauf {
   Handbuch() : Lauf(path()) {
     for (const Befehl befehl :
          {Befehl::DatenblattZeigen, Befehl::LeistungsumrechnungZeigen, Befehl::InfoZeigen, Befehl::TipZeigen,
-          Befehl::BaenderZeigen, Befehl::DiagrammeZeigen}) {
+          Befehl::BaenderZeigen, Befehl::DiagrammeZeigen, Befehl::LageplanZeigen}) {
       programm.Befehlen(befehl);
     }
     programm.Benutzerfenster();

@@ -9,6 +9,7 @@
 #include "ui/info/Hilfesystem.h"
 #include "ui/info/frmHilfe.h"
 #include "ui/options/frmOptions.h"
+#include "ui/plan/frmLageplan.h"
 #include "ui/preview/frmVorschau.h"
 
 namespace vesk {
@@ -45,6 +46,7 @@ TEST_F(HilfeImProgramm, F1OeffnetDenEintragJedesControls) {
   programm.Vorschau();
   programm.Baender();
   programm.Diagramme();
+  programm.Lageplan();
   QSet<int> nummern;
   for (QWidget* fenster : QApplication::topLevelWidgets()) {
     if (!fenster->objectName().startsWith(u"frm"_s) || fenster->objectName() == u"frmHilfe") continue;

@@ -4,6 +4,7 @@
 #include "tests/app/Lauf.h"
 #include "ui/datasheet/frmDatenblatt.h"
 #include "ui/options/frmOptions.h"
+#include "ui/plan/frmLageplan.h"
 #include "ui/preview/frmVorschau.h"
 #include "ui/user/frmUser.h"
 
@@ -26,6 +27,7 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
     programm.Benutzerfenster();
     programm.Datenblatt();
     programm.Vorschau();
+    programm.Lageplan();
     Finden<QTabWidget>(programm.Optionen(), u"SSTab1"_s).setCurrentIndex(3);
   }
 
@@ -36,6 +38,7 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
     }
     station.fenster = {fenster == u"frmOptions", fenster == u"frmDatenblatt", fenster == u"frmUser",
                        fenster == u"frmVorschau", true};
+    station.fenster.lageplan = fenster == u"frmLageplan";
     station.einstellungen = {.NahfeldHinweisAus = true};
     station.modus = Modus::Abstand;
     station.werte.Spalte = 1;
@@ -114,7 +117,7 @@ struct Menuegang : testing::Test, Verzeichnis, Lauf {
 
 TEST_F(Menuegang, JederEintragJedesFensters) {
   for (const QString& fenster :
-       {u"frmOptions"_s, u"frmDatenblatt"_s, u"frmUser"_s, u"frmVorschau"_s, u"frmVesk"_s})
+       {u"frmOptions"_s, u"frmDatenblatt"_s, u"frmUser"_s, u"frmVorschau"_s, u"frmLageplan"_s, u"frmVesk"_s})
     Gehen(fenster);
 }
 

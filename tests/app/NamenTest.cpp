@@ -34,7 +34,8 @@ QString Gelesen(const QString& text, bool markup) {
 TEST_F(Namen, AufJederBeschriftungUndInJedemTooltip) {
   programm.Tun([](Station& s, const Kataloge& k) {
     s.UserDatei = "<b>x.dat";
-    s.fenster.optionen = s.fenster.datenblatt = s.fenster.baender = s.fenster.diagramme = true;
+    s.fenster.optionen = s.fenster.datenblatt = s.fenster.baender = s.fenster.diagramme = s.fenster.lageplan =
+        true;
     s.winkel.herkunft = s.winkel.antenne = "<b>x";
     s.winkel.datei.clear();
     s.Datenblattspalten[0].KabelLaenge = "10";

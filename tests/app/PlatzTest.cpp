@@ -19,8 +19,8 @@ QStringList Rollende(const QWidget& fenster) {
 TEST(Platz, AllesAufEinemKleinenBildschirmOhneRollbalken) {
   const Verzeichnis verzeichnis;
   Lauf lauf(verzeichnis.path());
-  for (const QString& name :
-       {u"mnuDatenblatt"_s, u"mnuUmrechnung"_s, u"mnuBaender"_s, u"mnuDiagramme"_s, u"mnuUser"_s}) {
+  for (const QString& name : {u"mnuDatenblatt"_s, u"mnuUmrechnung"_s, u"mnuBaender"_s, u"mnuDiagramme"_s,
+                              u"mnuLageplan"_s, u"mnuUser"_s}) {
     lauf.Menue(name);
   }
   auto& tabs = Lauf::Ding<QTabWidget>(u"SSTab1"_s, u"frmOptions"_s);
@@ -30,7 +30,7 @@ TEST(Platz, AllesAufEinemKleinenBildschirmOhneRollbalken) {
     QCoreApplication::processEvents();
     rollende << Rollende(*tabs.window());
   }
-  EXPECT_EQ(Lauf::Offene().size(), 7);
+  EXPECT_EQ(Lauf::Offene().size(), 8);
   for (const QString& name : Lauf::Offene()) {
     const QWidget& fenster = Lauf::Fenster(name);
     rollende << Rollende(fenster);

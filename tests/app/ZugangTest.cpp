@@ -14,7 +14,7 @@ using Rolle = QAccessible::Role;
 const QSet<Rolle> Bedienbar = {Rolle::Button,   Rolle::ButtonMenu,   Rolle::CheckBox, Rolle::RadioButton,
                                Rolle::ComboBox, Rolle::EditableText, Rolle::List,     Rolle::Table,
                                Rolle::Tree,     Rolle::SpinBox,      Rolle::Document, Rolle::PageTabList,
-                               Rolle::Graphic};
+                               Rolle::Graphic,  Rolle::Slider};
 
 struct Zugang : testing::Test, Verzeichnis, Lauf {
   Zugang() : Lauf(path()) {
@@ -30,6 +30,7 @@ struct Zugang : testing::Test, Verzeichnis, Lauf {
                                                {u"frmDatenblatt"_s, DatenblattZeigen},
                                                {u"frmBaender"_s, BaenderZeigen},
                                                {u"frmDiagramme"_s, DiagrammeZeigen},
+                                               {u"frmLageplan"_s, LageplanZeigen},
                                                {u"frmVorschau"_s, {}},
                                                {u"frmLstg"_s, LeistungsumrechnungZeigen},
                                                {u"frmUser"_s, BenutzerZeigen},

@@ -28,7 +28,7 @@ QString KontextseitenName(int nummer) {
 }
 
 /// First numbers of the blocks, one block a window, and that of the boxes.
-constexpr int Blockanfaenge[] = {1001, 2001, 2100, 3001, 4001, 5001, 6001, 7001, 8001};
+constexpr int Blockanfaenge[] = {1001, 2001, 2100, 3001, 4001, 5001, 6001, 7001, 7100, 8001};
 
 /// About `Umfeld` characters of `text` on both sides of `stelle`, cut at blanks.
 QString Auszug(const QString& text, qsizetype stelle) {

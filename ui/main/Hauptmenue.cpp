@@ -30,6 +30,8 @@ constexpr Menueeintrag Bearbeiten[] = {
     {},
     {u"mnuBerechnen", u"&Berechnen", Tuend<Rechnen>, {}, false, u"F5"},
     {u"mnuKopieren", u"Berechnen und &kopieren", Tuend<RechnenUndKopieren>, {}, false, u"Ctrl+Enter"},
+    {},
+    {u"mnuLageplan", u"&Lageplan", Befehlend<Befehl::LageplanZeigen>, {}, false, u"Ctrl+L"},
 };
 constexpr Menueeintrag Optionen[] = {
     {u"mnuMoreOptions", u"&Weitere Optionen (Sendeart - Kabel - Antennen - Winkel)",

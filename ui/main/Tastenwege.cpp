@@ -34,7 +34,7 @@ struct Fensterort {
 constexpr Fensterort Fensterorte[] = {
     {u"frmVesk", Hauptfenster},  {u"frmDatenblatt", Datenblatt}, {u"frmOptions", Optionen},
     {u"frmUser", Benutzerdaten}, {u"frmVorschau", Papiere},      {u"frmBaender", Weitere},
-    {u"frmDiagramme", Weitere},
+    {u"frmDiagramme", Weitere},  {u"frmLageplan", Weitere},
 };
 
 template <int spalte>
@@ -57,6 +57,7 @@ constexpr Tastenweg Wege[] = {
     {Qt::CTRL | Qt::Key_P, Arbeitsfenster, Tuend<PapiereZeigen>},
     {Qt::CTRL | Qt::Key_B, Arbeitsfenster, Befehlend<Befehl::BaenderZeigen>},
     {Qt::CTRL | Qt::Key_D, Arbeitsfenster, Befehlend<Befehl::DiagrammeZeigen>},
+    {Qt::CTRL | Qt::Key_L, Arbeitsfenster, Befehlend<Befehl::LageplanZeigen>},
     {Qt::CTRL | Qt::Key_Z, Eingabefenster | Papiere, Befehlend<Befehl::Rueckgaengig>, true},
     {Qt::CTRL | Qt::Key_Y, Eingabefenster | Papiere, Befehlend<Befehl::Wiederholen>, true},
     {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Eingabefenster | Papiere, Befehlend<Befehl::Wiederholen>, true},

@@ -1,16 +1,23 @@
 #include <gtest/gtest.h>
 
 #include <QRegularExpression>
+#include <filesystem>
 #include <functional>
 #include <map>
 
 #include "engine/Ausgabe.h"
 #include "engine/Zahlen.h"
 #include "persistence/Antennendatei.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Kabeldatei.h"
+#include "persistence/Lageplandatei.h"
+#include "persistence/UserDatei.h"
 #include "station/Datenblatt.h"
 #include "station/Haupthandlungen.h"
 #include "station/Leistungsumrechnung.h"
+#include "station/Papiere.h"
+#include "station/Passung.h"
+#include "station/Spalten.h"
 #include "station/Verlauf.h"
 #include "tests/ui/Handbuchseiten.h"
 
@@ -71,6 +78,33 @@ Werte Kabelverluste(Werte& fall) {
           {"txtGesamtdaempfung", felder.Gesamtdaempfung}};
 }
 
+/// One of the examples that come with the program, as it is or with another height of its antenna.
+Werte Plan(Werte& fall) {
+  Station s;
+  const std::filesystem::path pfad = std::filesystem::path(VESK_DATEN) / "beispiele" / fall["plan"];
+  UserDateiLesen(DateiLesen(pfad.string() + ".dat", grenzen::UserDatei).bytes, s);
+  s.lageplan = LageplanLesen(DateiLesen(pfad.string() + ".lageplan", grenzen::UserDatei).bytes).plan;
+  const bool wieGezeichnet = !fall.contains("hoehe");
+  for (const int spalte : BenutzteSpalten(s)) {
+    if (!wieGezeichnet) ZelleSetzen(s, spalte, ZeileHoehe, fall["hoehe"]);
+  }
+  EXPECT_EQ(LageplanPruefen(s).empty(), wieGezeichnet) << pfad;
+  Werte werte = {{"Hoehe", Zelle(s, 1, ZeileHoehe)}};
+  for (const Zone& zone : ZonenBestimmen(s)) {
+    std::string name = Zonenname(zone.art);
+    std::erase(name, ' ');
+    const Passung passung = PassungPruefen(Planpruefung(s.lageplan), s.lageplan, zone);
+    werte[name] = Formatieren(Hoechstabstand(zone), 2, '.');
+    werte["Plan" + name] = Formatieren(passung.imGrundriss, 2, '.');
+    if (passung.passt != Passt::Nicht) continue;
+    const Abhilfe abhilfe = AbhilfeSuchen(s, zone);
+    werte["Haus" + name] = Formatieren(passung.verstoesse.front().ueber, 2, '.');
+    werte["Höhe" + name] = Formatieren(abhilfe.hoehe.value_or(0), 1, '.');
+    werte["Leistung" + name] = Formatieren(abhilfe.leistungen.front().watt, 2, '.');
+  }
+  return werte;
+}
+
 /// Interference threshold or peak field strength of a pacemaker, by the key.
 Werte Schwelle(Werte& fall) {
   const float mhz = Zahl(fall["uss306"] + fall["spitze306"] + fall["ussvde"] + fall["spitzevde"]);
@@ -87,6 +121,7 @@ Werte Ergebnisse(Werte fall) {
   if (fall.contains("qrg") || fall.contains("minuten")) return Rechnung(fall);
   if (fall.contains("band")) return Band(fall["band"]);
   if (fall["grenze"] == "schritte") return {{"", std::to_string(Verlauf::MaxSchritte)}};
+  if (fall.contains("plan")) return Plan(fall);
   if (fall.contains("kabel")) return Kabelverluste(fall);
   if (fall.contains("art")) return {{"", std::string(Sendearten.at(std::stoul(fall["art"])).faktor)}};
   const std::string einheiten[] = {"dbm", "dbw", "watt"};
@@ -190,6 +225,14 @@ TEST(Hilfewerte, KeineZahlMitEinheitBleibtUngeprueft) {
                   (grenzen + Masse).contains(angabe))
           << seite.key().toStdString() << ": " << angabe.toStdString();
     }
+  }
+}
+
+TEST(Hilfewerte, DieBeispieleDesLageplansPassen) {
+  for (const char* name : {"Reihenhaus", "Einfamilienhaus", "Balkon"}) {
+    Werte fall = {{"plan", name}};
+    EXPECT_NE(Plan(fall)["ohneHSM"], "") << name;
+    EXPECT_TRUE(Handbuchseiten()[u"lageplan.html"_s].contains(QString::fromUtf8(name) + u".dat"_s)) << name;
   }
 }
 
