@@ -3,7 +3,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QTextBoundaryFinder>
+#include <QTextLayout>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -22,29 +22,20 @@ QFontMetricsF Masse(const Schrift& schrift) {
   return QFontMetricsF(Papierschrift(schrift));
 }
 
-/// Longest head of `text` that is no wider than `breite`, at least one character.
-qsizetype Passend(const QString& text, const QFontMetricsF& masse, double breite) {
-  const auto passend = [&](qsizetype n) { return masse.horizontalAdvance(text.first(n)) <= breite; };
-  // Doubling first: only about a line is ever measured, however long the text.
-  qsizetype passt = 0;
-  qsizetype weite = 1;
-  while (passt + weite <= text.size() && passend(passt + weite)) {
-    passt += weite;
-    weite *= 2;
-  }
-  for (; weite > 0; weite /= 2) {
-    if (passt + weite <= text.size() && passend(passt + weite)) passt += weite;
-  }
-  // Never through the midst of a character of two units or of one with its accents.
-  constexpr qsizetype LaengstesZeichen = 32;
-  QTextBoundaryFinder grenze(QTextBoundaryFinder::Grapheme,
-                             text.first(std::min(passt + LaengstesZeichen, text.size())));
-  grenze.setPosition(passt);
-  if (!grenze.isAtBoundary()) passt = grenze.toPreviousBoundary();
-  if (passt > 0) return passt;
-  grenze.toStart();
-  const qsizetype erste = grenze.toNextBoundary();
-  return erste > 0 ? erste : text.size();
+constexpr qsizetype LaengsteZeile = 1000;  // more characters never stand beside each other
+
+/// Length of the longest head of `text` that is no wider than `breite`, at least one character, and never
+/// through the midst of one.
+qsizetype Passend(const QString& text, const QFont& font, double breite) {
+  QTextLayout satz(text.left(LaengsteZeile), font);
+  QTextOption ueberall;
+  ueberall.setWrapMode(QTextOption::WrapAnywhere);
+  satz.setTextOption(ueberall);
+  satz.beginLayout();
+  QTextLine zeile = satz.createLine();
+  zeile.setLineWidth(breite);
+  satz.endLayout();
+  return zeile.textLength();
 }
 
 QPointF Einheiten(QPointF punkt) {
@@ -101,11 +92,11 @@ double Oberlaenge(const Schrift& schrift) {
 }
 
 QStringList Umbrechen(const QString& text, const Schrift& schrift, double breite, qsizetype hoechstens) {
-  const QFontMetricsF masse = Masse(schrift);
+  const QFont font = Papierschrift(schrift);
   QStringList zeilen;
   for (QString rest : text.split(u'\n')) {
     do {
-      qsizetype laenge = Passend(rest, masse, breite * Blatt::Einheit);
+      qsizetype laenge = Passend(rest, font, breite * Blatt::Einheit);
       if (laenge < rest.size()) {
         const qsizetype leer = rest.lastIndexOf(u' ', laenge);
         if (leer > 0) laenge = leer;
@@ -127,6 +118,13 @@ Schrift Eingepasst(const QString& text, Schrift schrift, double breite, double m
   return schrift;
 }
 
+QString Gekuerzt(QString text, const Schrift& schrift, double breite) {
+  if (text.size() <= LaengsteZeile && Textbreite(text, schrift) <= breite) return text;
+  const QString mehr = u" …"_s;
+  text.truncate(LaengsteZeile);
+  return Umbrechen(text, schrift, breite - Textbreite(mehr, schrift), 1).first() + mehr;
+}
+
 Blatt::Blatt(QPainter& maler, double jeMillimeter) : maler_(maler) {
   maler_.save();
   maler_.scale(jeMillimeter / Einheit, jeMillimeter / Einheit);
@@ -145,6 +143,12 @@ void Blatt::Text(QPointF punkt, const QString& text, const Schrift& schrift, Bue
   maler_.setFont(Papierschrift(schrift));
   maler_.setPen(schrift.farbe);
   maler_.drawText(Einheiten(punkt), text);
+}
+
+void Blatt::Einzeiler(QPointF punkt, double breite, const QString& text, const Schrift& schrift,
+                      double mindestens, Buendig buendig) {
+  const Schrift passend = Eingepasst(text.left(LaengsteZeile), schrift, breite, mindestens);
+  Text(punkt, Gekuerzt(text, passend, breite), passend, buendig);
 }
 
 void Blatt::Zahl(QPointF punkt, const QString& text, const Schrift& schrift) {

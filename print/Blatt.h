@@ -28,7 +28,7 @@ struct Schrift {
   double punkt = 9;
   bool fett = false;
   bool kursiv = false;
-  QColor farbe = Qt::black;
+  QColor farbe{0, 0, 0};
 };
 
 double Textbreite(const QString& text, const Schrift& schrift);
@@ -44,6 +44,9 @@ QStringList Umbrechen(const QString& text, const Schrift& schrift, double breite
 /// points.
 Schrift Eingepasst(const QString& text, Schrift schrift, double breite, double mindestens);
 
+/// `text` in one line of `breite`, with an ellipsis for what does not fit.
+QString Gekuerzt(QString text, const Schrift& schrift, double breite);
+
 enum class Buendig { Links, Mitte, Rechts };
 
 /// One page being painted.
@@ -58,6 +61,9 @@ class Blatt {
   /// `punkt` is on the base line.
   void Text(QPointF punkt, const QString& text, const Schrift& schrift = {},
             Buendig buendig = Buendig::Links);
+  /// In one line of `breite`: made smaller, but not below `mindestens` points, and then shortened.
+  void Einzeiler(QPointF punkt, double breite, const QString& text, const Schrift& schrift, double mindestens,
+                 Buendig buendig = Buendig::Links);
   /// A number whose decimal point, or whose end where it has none, stands right of `punkt`; its digits have
   /// one width. Anything else is centred at the point.
   void Zahl(QPointF punkt, const QString& text, const Schrift& schrift = {});

@@ -63,10 +63,8 @@ template <typename Zellentext>
 double ZellenMalen(Blatt& blatt, QPointF grund, const Schrift& schrift, Zellentext text) {
   for (std::size_t i = 0; i < Spalten.size(); ++i) {
     const double breite = Spalten.at(i).breite;
-    const QString inhalt = text(i);
-    const Schrift passend = Eingepasst(inhalt, schrift, breite - 1, 3);
-    blatt.Text(grund + QPointF(i == 0 ? 0 : breite, 0), inhalt, passend,
-               i == 0 ? Buendig::Links : Buendig::Rechts);
+    blatt.Einzeiler(grund + QPointF(i == 0 ? 0 : breite, 0), breite - 1, text(i), schrift, 3,
+                    i == 0 ? Buendig::Links : Buendig::Rechts);
     grund.rx() += breite;
   }
   return grund.x() + Tabellenluft;

@@ -15,7 +15,9 @@ namespace {
 constexpr std::array<QStringView, 3> Signalarten = {u"AM (AFu)", u"TV (Fernsehmodulation)", u"GSM"};
 
 /// What is not stated.
-const QString Strich = u"–"_s;
+QString Strich() {
+  return u"–"_s;
+}
 
 const Datenblattspalte& SatzVon(const Station& s, int spalte) {
   return s.Datenblattspalten.at(static_cast<std::size_t>(spalte));
@@ -29,7 +31,7 @@ bool MitKabel(const Datenblattspalte& satz) {
 QString Kabelname(const Datenblattspalte& satz, const Kataloge& k) {
   bool zahl = false;
   const auto index = QString::fromStdString(satz.KabelIndex).toUInt(&zahl);
-  if (!zahl || index >= k.kabel.liste.size()) return Strich;
+  if (!zahl || index >= k.kabel.liste.size()) return Strich();
   return QString::fromStdString(k.kabel.liste[index]);
 }
 
@@ -67,16 +69,16 @@ class Optionsblock {
 };
 
 QString OderStrich(const std::string& text) {
-  return text.empty() ? Strich : QString::fromStdString(text);
+  return text.empty() ? Strich() : QString::fromStdString(text);
 }
 
 void KabelZeigen(Optionsblock& block, const Kataloge& k) {
   using Satz = const Datenblattspalte&;
   const auto text = [](std::string Datenblattspalte::*feld) {
-    return [feld](int, Satz satz) { return MitKabel(satz) ? OderStrich(satz.*feld) : Strich; };
+    return [feld](int, Satz satz) { return MitKabel(satz) ? OderStrich(satz.*feld) : Strich(); };
   };
   block.Zeile(
-      u"Kabel"_s, [&](int, Satz satz) { return MitKabel(satz) ? Kabelname(satz, k) : Strich; }, Nebenlinie);
+      u"Kabel"_s, [&](int, Satz satz) { return MitKabel(satz) ? Kabelname(satz, k) : Strich(); }, Nebenlinie);
   block.Zeile(u"Kabellänge [m]"_s, text(&Datenblattspalte::KabelLaenge));
   block.Zeile(u"Kabeldämpfung je 100 m [dB]"_s, text(&Datenblattspalte::D100));
   block.Zeile(u"Stecker etc. [dB]"_s, [](int, Satz satz) { return OderStrich(satz.Stecker); });
@@ -95,7 +97,7 @@ void WinkelZeigen(Optionsblock& block, const Station& s) {
         name,
         [i](int, const Datenblattspalte& satz) {
           if (MitWinkeln(satz)) return OderStrich(satz.Winkel.at(i));
-          return i == 0 ? Strich : QString();
+          return i == 0 ? Strich() : QString();
         },
         i == 0 ? Nebenlinie : 0);
   }

@@ -22,7 +22,7 @@ constexpr double Kastenlinie = 0.15;
 constexpr QColor Tuerkis(0, 128, 128);
 constexpr QColor Grau(112, 112, 112);
 
-const Schrift Zellenschrift{8};
+constexpr Schrift Zellenschrift{8};
 
 QRectF Quersatz() {
   return Satzspiegel(Blattformat::Quer);

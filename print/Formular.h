@@ -36,7 +36,7 @@ inline void Anhaengen(Streifenfolge& folge, const Streifenfolge& weitere) {
 
 struct Gitterzelle {
   QString text;
-  QColor farbe = Qt::black;
+  QColor farbe{0, 0, 0};
 };
 struct Gitterzeile {
   QString nummer = {};

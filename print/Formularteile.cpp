@@ -11,7 +11,7 @@ namespace vesk {
 
 namespace {
 
-const Schrift Hinweisschrift{8};
+constexpr Schrift Hinweisschrift{8};
 
 QRectF Quersatz() {
   return Satzspiegel(Blattformat::Quer);

@@ -16,10 +16,6 @@ constexpr double Kurvenstaerke = 0.4;  // mm
 constexpr double Markenradius = 1.0;
 constexpr double Luft = 1.5;  // between neighbouring texts
 
-/// In multiples of the line's thickness.
-const std::array<QList<qreal>, AnzahlKurvenstile> Strichmuster = {
-    {{}, {7, 3}, {1.5, 2}, {7, 2.5, 1.5, 2.5}, {14, 4}}};
-
 /// The name of a mark in its place above the chart.
 struct Markenname {
   const Bildmarke* marke;
@@ -54,6 +50,9 @@ class Zeichnung {
 };
 
 QPen Zeichnung::Stift(std::size_t stil) const {
+  // In multiples of the line's thickness.
+  const std::array<QList<qreal>, AnzahlKurvenstile> Strichmuster = {
+      {{}, {7, 3}, {1.5, 2}, {7, 2.5, 1.5, 2.5}, {14, 4}}};
   QPen stift(farben_.kurven.at(stil), Kurvenstaerke * Blatt::Einheit, Qt::SolidLine, Qt::FlatCap,
              Qt::RoundJoin);
   if (!Strichmuster.at(stil).isEmpty()) stift.setDashPattern(Strichmuster.at(stil));

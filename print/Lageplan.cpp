@@ -19,7 +19,7 @@ constexpr double Feldbreite = 84;  // of the title block, mm
 constexpr double Pfeilbreite = 16;
 constexpr double Abstand = 3;
 constexpr double Textrand = 6;  // round what is drawn, for the letters at its edge
-const Schrift Klein{7};
+constexpr Schrift Klein{7};
 
 struct Papierwunsch {
   Blattformat format;

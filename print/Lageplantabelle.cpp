@@ -17,19 +17,19 @@ namespace {
 constexpr std::array Kurvenfolge = {Winkelkurve::OhneHSM, Winkelkurve::HSMvde, Winkelkurve::HSM306};
 
 struct Tabellenspalte {
-  QString kopf;
+  QStringView kopf;
   double ort;  ///< from the left margin, mm
   double breite;
   Buendig buendig = Buendig::Links;
 };
-const std::array<Tabellenspalte, 7> Spalten = {{
-    {u"Antenne"_s, 0, 44},
-    {u"Spalte"_s, 46, 12},
-    {u"Höhe [m]"_s, 60, 20},
-    {u"Hauptrichtung"_s, 82, 33},
-    {u"ohne HSM [m]"_s, 136, 20, Buendig::Rechts},
-    {u"HSM VDE [m]"_s, 157, 20, Buendig::Rechts},
-    {u"HSM 306 [m]"_s, 178, 20, Buendig::Rechts},
+constexpr std::array<Tabellenspalte, 7> Spalten = {{
+    {u"Antenne", 0, 44},
+    {u"Spalte", 46, 12},
+    {u"Höhe [m]", 60, 20},
+    {u"Hauptrichtung", 82, 33},
+    {u"ohne HSM [m]", 136, 20, Buendig::Rechts},
+    {u"HSM VDE [m]", 157, 20, Buendig::Rechts},
+    {u"HSM 306 [m]", 178, 20, Buendig::Rechts},
 }};
 using Tabellentexte = std::array<QString, Spalten.size()>;
 
@@ -39,12 +39,9 @@ Block Tabellenzeile(const Tabellentexte& texte, const Schrift& schrift, double l
             const QRectF satz = Satzspiegel(Blattformat::Hoch);
             if (linie > 0) blatt.Linie({satz.left(), oben}, {satz.right(), oben}, linie);
             for (std::size_t i = 0; i < texte.size(); ++i) {
-              constexpr qsizetype Meiste = 100;  // characters that are measured
               const Tabellenspalte& spalte = Spalten.at(i);
-              const QString ganz = texte.at(i).left(Meiste);
-              const Schrift passend = Eingepasst(ganz, schrift, spalte.breite, 5);
-              const QString text = Umbrechen(ganz, passend, spalte.breite, 1).first();
-              blatt.Text({satz.left() + spalte.ort, oben + 3.7}, text, passend, spalte.buendig);
+              blatt.Einzeiler({satz.left() + spalte.ort, oben + 3.7}, spalte.breite, texte.at(i), schrift, 5,
+                              spalte.buendig);
             }
           }};
 }
@@ -104,7 +101,7 @@ Bloecke Antennenzeilen(const Station& s, std::size_t index, const std::vector<Zo
 
 Bloecke Zonentabelle(const Station& s, const std::vector<Zone>& zonen) {
   Tabellentexte koepfe;
-  for (std::size_t i = 0; i < Spalten.size(); ++i) koepfe.at(i) = Spalten.at(i).kopf;
+  for (std::size_t i = 0; i < Spalten.size(); ++i) koepfe.at(i) = Spalten.at(i).kopf.toString();
   Bloecke bloecke{Tabellenzeile(koepfe, {.punkt = 8, .fett = true}, 0)};
   bloecke.front().mitNaechstem = true;
   for (std::size_t i = 0; i < s.lageplan.objekte.size(); ++i) {

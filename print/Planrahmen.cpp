@@ -12,8 +12,7 @@ namespace {
 
 constexpr double Zeilenabstand = 4.4;
 constexpr double Feldzeile = 5.4;
-const Schrift Klein{7};
-const Umriss Musterflaeche{{0, 0}, {8, 0}, {8, 3}, {0, 3}};
+constexpr Schrift Klein{7};
 
 QString Zonenlegende(Winkelkurve art) {
   return Zonenkuerzel(art) + u": Abstand "_s + QString::fromUtf8(Zonenname(art));
@@ -22,7 +21,7 @@ QString Zonenlegende(Winkelkurve art) {
 Legendenzeile Objektlegende(const QString& text, Planart art, Nutzung nutzung = Nutzung::Eigen) {
   Planobjekt muster;
   muster.art = art;
-  muster.punkte = Musterflaeche;
+  muster.punkte = {{0, 0}, {8, 0}, {8, 3}, {0, 3}};
   muster.nutzung = nutzung;
   if (!Artzeile(art).umriss) muster.punkte = {{4, 1.5}};
   if (art == Planart::Baum) muster.radius = 1.5;
@@ -130,8 +129,7 @@ void LegendeMalen(Blatt& blatt, const QRectF& platz, const Legende& legende) {
         QRectF((ecke - QPointF(1, 0.4)) * Blatt::Einheit, QSizeF(Einzug, Zeilenabstand) * Blatt::Einheit));
     legende[i].muster(Planzeichner(blatt.Maler(), abbildung, {}));
     blatt.Maler().restore();
-    const QString& text = legende[i].text;
-    blatt.Text(ecke + QPointF(Einzug, 2.9), text, Eingepasst(text, Klein, breite - Einzug - 1, 4));
+    blatt.Einzeiler(ecke + QPointF(Einzug, 2.9), breite - Einzug - 1, legende[i].text, Klein, 4);
   }
 }
 
@@ -181,14 +179,11 @@ double Schriftfeldhoehe(const Schriftfeld& feld) {
 void SchriftfeldMalen(Blatt& blatt, const QRectF& platz, const Schriftfeld& feld) {
   constexpr double Einzug = 20;
   double oben = platz.top();
-  constexpr qsizetype Meiste = 200;  // characters that are measured
-  for (const auto& [name, ganz] : feld) {
-    const QString text = ganz.left(Meiste);
+  for (const auto& [name, text] : feld) {
     if (oben > platz.top()) blatt.Linie({platz.left(), oben}, {platz.right(), oben}, 0.1);
     blatt.Text({platz.left() + 1.5, oben + 3.7}, name, Klein);
     const double breite = platz.width() - Einzug - 1.5;
-    const Schrift schrift = Eingepasst(text, {.punkt = 9, .fett = true}, breite, 5);
-    blatt.Text({platz.left() + Einzug, oben + 3.8}, Umbrechen(text, schrift, breite, 1).first(), schrift);
+    blatt.Einzeiler({platz.left() + Einzug, oben + 3.8}, breite, text, {.punkt = 9, .fett = true}, 5);
     oben += Feldzeile;
   }
   blatt.Rahmen({platz.topLeft(), QPointF(platz.right(), oben)}, 0.3);

@@ -14,19 +14,10 @@ namespace vesk {
 namespace {
 
 constexpr double Werteinzug = 34;  // where the texts beside their captions begin
-const Schrift Grundschrift{10};
+constexpr Schrift Grundschrift{10};
 
 QRectF Hochsatz() {
   return Satzspiegel(Blattformat::Hoch);
-}
-
-/// `text` in one line of `breite`; all that could ever stand there is measured.
-QString Gekuerzt(QString text, const Schrift& schrift, double breite) {
-  constexpr qsizetype Hoechstens = 1000;
-  if (text.size() <= Hoechstens && Textbreite(text, schrift) <= breite) return text;
-  const QString mehr = u" …"_s;
-  text.truncate(Hoechstens);
-  return Umbrechen(text, schrift, breite - Textbreite(mehr, schrift)).first() + mehr;
 }
 
 Block Textzeile(const QString& text, const Schrift& schrift, double einzug) {
@@ -116,12 +107,14 @@ Bloecke Textbloecke(const QString& text, const Schrift& schrift, double einzug, 
 
 Block Ueberschrift(const QString& text, const QString& rechts) {
   const Schrift fett{.punkt = 11, .fett = true};
+  const Schrift klein{8};
   return {.hoehe = Zeilenhoehe(fett) + 1.6,
           .malen =
               [=](Blatt& blatt, double oben) {
                 const double grund = oben + Oberlaenge(fett);
-                blatt.Text({Hochsatz().left(), grund}, text, fett);
-                blatt.Text({Hochsatz().right(), grund}, rechts, {8}, Buendig::Rechts);
+                const double platz = Hochsatz().width() - Textbreite(rechts, klein);
+                blatt.Text({Hochsatz().left(), grund}, Gekuerzt(text, fett, platz), fett);
+                blatt.Text({Hochsatz().right(), grund}, rechts, klein, Buendig::Rechts);
               },
           .davor = 6,
           .mitNaechstem = true};

@@ -146,7 +146,7 @@ void PfeilMalen(Blatt& blatt, QPointF von, const QString& oben, const QString& l
   const Schrift fett{.punkt = 7.5, .fett = true};
   const QPointF grund = von + QPointF(Pfeil / 2, -1.6);
   blatt.Text(grund - QPointF(0, Zeile), oben, fett, Buendig::Mitte);
-  blatt.Text(grund, leistung, Eingepasst(leistung, fett, Pfeil - 0.6, 1), Buendig::Mitte);
+  blatt.Einzeiler(grund, Pfeil - 0.6, leistung, fett, 1, Buendig::Mitte);
 }
 
 void KastenMalen(Blatt& blatt, const QRectF& kasten, const Kettenglied& glied) {

@@ -149,9 +149,8 @@ Diagrammblatt Inhalte(const Winkelblatt& blatt, std::size_t art, Massstabswunsch
 QStringList Gekuerzt(const QString& text, const Schrift& schrift, double breite, qsizetype zeilen) {
   QStringList alle = Umbrechen(text, schrift, breite);
   if (alle.size() <= zeilen) return alle;
-  const QString mehr = u" …"_s;
   alle = alle.first(zeilen);
-  alle.last() = Umbrechen(alle.last(), schrift, breite - Textbreite(mehr, schrift)).first() + mehr;
+  alle.last() = Gekuerzt(alle.last() + u" …"_s, schrift, breite);
   return alle;
 }
 
@@ -215,8 +214,7 @@ void SpalteMalen(Blatt& blatt, const Tabellenspalte& spalte, double mitte, doubl
     if (IstZahl(text)) {
       blatt.Zahl({mitte + (breiten.vor - breiten.nach) / 2, grund}, text, schrift);
     } else {
-      const Schrift klein = Eingepasst(text, {.punkt = 9, .fett = spalte.fett}, breite, 6);
-      blatt.Text({mitte, grund}, Gekuerzt(text, klein, breite, 1).first(), klein, Buendig::Mitte);
+      blatt.Einzeiler({mitte, grund}, breite, text, {.punkt = 9, .fett = spalte.fett}, 6, Buendig::Mitte);
     }
     grund += zeilenhoehe;
   }
@@ -249,8 +247,9 @@ void BildMalen(Blatt& blatt, const Diagrammblatt& d, double oben) {
   constexpr double Bildhoehe = Bildradius + 20;
   const Schrift Klein{8};
   const QRectF satz = Satzspiegel(Blattformat::Hoch);
-  const Schrift titel = Eingepasst(d.bildtitel, {.punkt = 10, .fett = true}, satz.width(), 5);
-  blatt.Text({satz.center().x(), oben + Oberlaenge(titel)}, d.bildtitel, titel, Buendig::Mitte);
+  const Schrift titel{.punkt = 10, .fett = true};
+  blatt.Einzeiler({satz.center().x(), oben + Oberlaenge(titel)}, satz.width(), d.bildtitel, titel, 5,
+                  Buendig::Mitte);
   oben += 7;
   blatt.Maler().setFont(Papierschrift(Klein));
   polardiagramm::paint(
