@@ -16,17 +16,17 @@ namespace fs = std::filesystem;
 namespace {
 
 struct Katalogart {
-  fs::path name;
+  const char* name;
   std::size_t grenze;
 };
-const std::array<Katalogart, 2> Katalogarten = {
+constexpr std::array<Katalogart, 2> Katalogarten = {
     Katalogart{"Kabel.txt", grenzen::Kabel},
     Katalogart{"Antennen.txt", grenzen::Antennen},
 };
 
 const Katalogart* Art(const fs::path& pfad) {
   const auto* art = std::find_if(Katalogarten.begin(), Katalogarten.end(),
-                                 [&](const Katalogart& eine) { return eine.name == pfad.filename(); });
+                                 [&](const Katalogart& eine) { return pfad.filename() == eine.name; });
   return art == Katalogarten.end() ? nullptr : art;
 }
 
@@ -55,7 +55,7 @@ bool IstKatalog(const fs::path& pfad) {
 
 bool KatalogErsetzen(const fs::path& pfad, const fs::path& verzeichnis, Rueckfragen& rueckfragen) {
   const Katalogart& art = *Art(pfad);
-  const std::string name = PfadAlsUtf8(art.name);
+  const std::string name = art.name;
   const fs::path ziel = verzeichnis / art.name;
   const Gelesen neu = DateiLesen(pfad, art.grenze);
   const auto fehler = [&](const std::string& grund) {

@@ -12,11 +12,6 @@ namespace {
 
 using Daempfungen = std::array<std::string, AnzahlSektoren>;
 
-const Winkeldaten Beispieldaten{
-    "Beispiel Tonna 17el",
-    "15.3",
-    "144",
-    {"0.00", "0.85", "3.33", "11.25", "12.92", "14.58", "16.67", "17.50", "20.00"}};
 constexpr const char* Beispielleistung = "347.59";
 
 constexpr std::array Winkeltexte = {&Winkelseite::antenne, &Winkelseite::gewinn, &Winkelseite::frequenz,
@@ -48,11 +43,15 @@ void AusSatz(Station& s, const Daempfungen& daempfung, const std::string& herkun
 }
 
 Meldungen BeispielSetzen(Station& s, const Kataloge& k) {
-  WinkelErsetzen(s, Beispieldaten.daempfung);
+  const Winkeldaten beispiel{"Beispiel Tonna 17el",
+                             "15.3",
+                             "144",
+                             {"0.00", "0.85", "3.33", "11.25", "12.92", "14.58", "16.67", "17.50", "20.00"}};
+  WinkelErsetzen(s, beispiel.daempfung);
   OhneDatei(s, "Beispiel");
-  s.winkel.antenne = Beispieldaten.antenne;
-  s.winkel.gewinn = Beispieldaten.gewinn;
-  s.winkel.frequenz = Beispieldaten.frequenz;
+  s.winkel.antenne = beispiel.antenne;
+  s.winkel.gewinn = beispiel.gewinn;
+  s.winkel.frequenz = beispiel.frequenz;
   s.winkel.AntEinPWR = Beispielleistung;
   WinkelInSpalte(s);
   return SektorenBerechnen(s, k);

@@ -112,11 +112,7 @@ QWidget* frmVesk::ModusAnlegen() {
   lblModus->setCursor(Qt::PointingHandCursor);
   lblModus->setFocusPolicy(Qt::TabFocus);
   ZugangsrolleSetzen(*lblModus, QAccessible::Button);
-  MitSchrift(*rhmSicherheit, [=, this] {
-    QFont schrift = Vergroessert(rhmSicherheit->font(), 1.4);
-    schrift.setBold(true);
-    lblModus->setFont(schrift);
-  });
+  MitSchrift(*rhmSicherheit, [=, this] { lblModus->setFont(Vergroessert(rhmSicherheit->font(), 1.4)); });
   zeile->addWidget(lblModus, 1);
   return rhmSicherheit;
 }
