@@ -112,32 +112,32 @@ void Neufassung::VerzeichnisSichern() const {
 }
 
 const char* Fehlertext(int nummer) {
-  struct Zeile {
+  struct Fehlerzeile {
     int nummer;
     const char* text;
   };
   static constexpr std::array Tabelle = {
-      Zeile{ENOSPC, "Auf dem Datenträger ist kein Platz mehr."},
+      Fehlerzeile{ENOSPC, "Auf dem Datenträger ist kein Platz mehr."},
 #ifdef EDQUOT
-      Zeile{EDQUOT, "Der zugeteilte Platz auf dem Datenträger ist verbraucht."},
+      Fehlerzeile{EDQUOT, "Der zugeteilte Platz auf dem Datenträger ist verbraucht."},
 #endif
-      Zeile{EFBIG, "Die Datei darf nicht so groß werden: Der erlaubte Platz reicht nicht."},
-      Zeile{EACCES, "Die Berechtigung fehlt."},
-      Zeile{EPERM, "Die Berechtigung fehlt, oder die Datei ist gesperrt."},
-      Zeile{EROFS, "Der Datenträger ist schreibgeschützt."},
-      Zeile{ENOENT, "Das Verzeichnis gibt es nicht."},
-      Zeile{ENOTDIR, "Ein Teil des Pfades ist kein Verzeichnis."},
-      Zeile{EISDIR, "Unter diesem Namen gibt es ein Verzeichnis."},
-      Zeile{ENODEV, "Unter diesem Namen gibt es etwas, das keine gewöhnliche Datei ist."},
-      Zeile{EBUSY, "Die Datei ist gerade von einem anderen Programm gesperrt."},
-      Zeile{ETXTBSY, "Die Datei ist gerade von einem anderen Programm gesperrt."},
-      Zeile{ENAMETOOLONG, "Der Name der Datei ist zu lang."},
-      Zeile{ELOOP, "Die Verknüpfung führt im Kreis."},
-      Zeile{EIO, "Der Datenträger meldet einen Fehler."},
-      Zeile{EMFILE, "Es sind zu viele Dateien geöffnet."},
-      Zeile{ENFILE, "Es sind zu viele Dateien geöffnet."},
+      Fehlerzeile{EFBIG, "Die Datei darf nicht so groß werden: Der erlaubte Platz reicht nicht."},
+      Fehlerzeile{EACCES, "Die Berechtigung fehlt."},
+      Fehlerzeile{EPERM, "Die Berechtigung fehlt, oder die Datei ist gesperrt."},
+      Fehlerzeile{EROFS, "Der Datenträger ist schreibgeschützt."},
+      Fehlerzeile{ENOENT, "Das Verzeichnis gibt es nicht."},
+      Fehlerzeile{ENOTDIR, "Ein Teil des Pfades ist kein Verzeichnis."},
+      Fehlerzeile{EISDIR, "Unter diesem Namen gibt es ein Verzeichnis."},
+      Fehlerzeile{ENODEV, "Unter diesem Namen gibt es etwas, das keine gewöhnliche Datei ist."},
+      Fehlerzeile{EBUSY, "Die Datei ist gerade von einem anderen Programm gesperrt."},
+      Fehlerzeile{ETXTBSY, "Die Datei ist gerade von einem anderen Programm gesperrt."},
+      Fehlerzeile{ENAMETOOLONG, "Der Name der Datei ist zu lang."},
+      Fehlerzeile{ELOOP, "Die Verknüpfung führt im Kreis."},
+      Fehlerzeile{EIO, "Der Datenträger meldet einen Fehler."},
+      Fehlerzeile{EMFILE, "Es sind zu viele Dateien geöffnet."},
+      Fehlerzeile{ENFILE, "Es sind zu viele Dateien geöffnet."},
   };
-  for (const Zeile& zeile : Tabelle) {
+  for (const Fehlerzeile& zeile : Tabelle) {
     if (zeile.nummer == nummer) return zeile.text;
   }
   return "Das Betriebssystem meldet einen Fehler.";
