@@ -125,7 +125,7 @@ class Seitenbild {
       }
     }
     for (const double hinauf : {0.6, 1.2, 1.8, 2.4, 3.}) {
-      for (const double seite : {0., -0.6, 0.6, -1.2, 1.2}) {
+      for (const double seite : {0., -0.6, 0.6, -1.2, 1.2, -1.8, 1.8, -2.4, 2.4}) {
         orte.push_back(
             {sichtbar.center().x() + seite * groesse.width(), sichtbar.top() - hinauf * groesse.height()});
       }

@@ -87,15 +87,9 @@ bool Fenstermenue::eventFilter(QObject* objekt, QEvent* ereignis) {
   return false;
 }
 
-Fenstermenue& MenueAnlegen(QMenuBar& leiste, const QString& name, const QString& titel,
-                           std::span<const Menueeintrag> eintraege, Ablauf& ablauf) {
-  auto* menue = new Fenstermenue(titel, &leiste);
-  menue->setObjectName(name);
-  menue->menuAction()->setObjectName(name);
-  leiste.addMenu(menue);
-  leiste.installEventFilter(menue);
+void EintraegeAnlegen(QMenu& menue, std::span<const Menueeintrag> eintraege, Ablauf& ablauf) {
   for (const Menueeintrag& eintrag : eintraege) {
-    QAction* aktion = menue->addAction(eintrag.beschriftung.toString());
+    QAction* aktion = menue.addAction(eintrag.beschriftung.toString());
     aktion->setObjectName(eintrag.name.toString());
     aktion->setCheckable(eintrag.schalter);
     aktion->setSeparator(eintrag.tun == nullptr && eintrag.gesperrt.isEmpty());
@@ -104,9 +98,19 @@ Fenstermenue& MenueAnlegen(QMenuBar& leiste, const QString& name, const QString&
     aktion->setShortcutContext(Qt::WidgetShortcut);
     aktion->setToolTip(eintrag.gesperrt.toString());
     if (eintrag.tun != nullptr) {
-      QObject::connect(aktion, &QAction::triggered, menue, [&ablauf, tun = eintrag.tun] { tun(ablauf); });
+      QObject::connect(aktion, &QAction::triggered, &menue, [&ablauf, tun = eintrag.tun] { tun(ablauf); });
     }
   }
+}
+
+Fenstermenue& MenueAnlegen(QMenuBar& leiste, const QString& name, const QString& titel,
+                           std::span<const Menueeintrag> eintraege, Ablauf& ablauf) {
+  auto* menue = new Fenstermenue(titel, &leiste);
+  menue->setObjectName(name);
+  menue->menuAction()->setObjectName(name);
+  leiste.addMenu(menue);
+  leiste.installEventFilter(menue);
+  EintraegeAnlegen(*menue, eintraege, ablauf);
   return *menue;
 }
 

@@ -46,6 +46,8 @@ class Fenstermenue : public QMenu {
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 };
 
+/// At the end of the menu.
+void EintraegeAnlegen(QMenu& menue, std::span<const Menueeintrag> eintraege, Ablauf& ablauf);
 /// A menu of this name at the end of the bar.
 Fenstermenue& MenueAnlegen(QMenuBar& leiste, const QString& name, const QString& titel,
                            std::span<const Menueeintrag> eintraege, Ablauf& ablauf);

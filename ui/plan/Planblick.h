@@ -36,6 +36,8 @@ class Planblick : public QWidget {
 
   void WahlLoeschen();
   void EckeEinfuegen();
+  /// Of what is being drawn or dragged and is not of the plan yet; false: there is nothing like that.
+  bool SchrittZurueck();
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

@@ -159,20 +159,22 @@ void Planblick::MassVerwerfen() {
   setFocus();
 }
 
+bool Planblick::SchrittZurueck() {
+  if (zug_) {
+    ZugAufgeben();
+    return true;
+  }
+  if (strich_.ecken.empty()) return false;
+  if (txtMass->text().isEmpty()) EckeZurueck();
+  MassVerwerfen();
+  return true;
+}
+
 bool Planblick::eventFilter(QObject* objekt, QEvent* ereignis) {
   if ((objekt != txtMass && objekt != this) || ereignis->type() != QEvent::KeyPress)
     return QWidget::eventFilter(objekt, ereignis);
   const auto* taste = static_cast<QKeyEvent*>(ereignis);
-  // What is being drawn or dragged is not of the plan yet: its last step is this one.
-  if (taste->matches(QKeySequence::Undo) && zug_) {
-    ZugAufgeben();
-    return true;
-  }
-  if (taste->matches(QKeySequence::Undo) && !strich_.ecken.empty()) {
-    if (txtMass->text().isEmpty()) EckeZurueck();
-    MassVerwerfen();
-    return true;
-  }
+  if (taste->matches(QKeySequence::Undo) && SchrittZurueck()) return true;
   if (objekt == this) return false;
   if (taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter) {
     MassUebernehmen();  // the field would hand the key on, to be taken once more

@@ -52,7 +52,6 @@ constexpr Menueeintrag Dateimenue[] = {
     {u"mnuLageplanSchliessen", u"S&chließen", Tuend<LageplanSchliessen>},
 };
 constexpr Menueeintrag Bearbeiten[] = {
-    {u"mnuRueckgaengig", u"&Rückgängig", Befehlend<Befehl::Rueckgaengig>, {}, false, u"Ctrl+Z"},
     {u"mnuWiederholen", u"&Wiederholen", Befehlend<Befehl::Wiederholen>, {}, false, u"Ctrl+Y"},
     {},
     {u"mnuBereich", u"&Bereich wie Grundstück", BereichSetzen},
@@ -92,7 +91,7 @@ QIcon Linienbild(const QWidget& fenster, Winkelkurve art) {
 
 void frmLageplan::MenueAufbauen() {
   MenueAnlegen(*menuBar(), u"mnuDatei"_s, u"&Datei"_s, Dateimenue, ablauf_);
-  QMenu& bearbeiten = MenueAnlegen(*menuBar(), u"mnuPlanBearbeiten"_s, u"&Bearbeiten"_s, Bearbeiten, ablauf_);
+  QMenu& bearbeiten = MenueAnlegen(*menuBar(), u"mnuPlanBearbeiten"_s, u"&Bearbeiten"_s, {}, ablauf_);
   const auto eintrag = [this](QMenu& menue, const QString& name, const QString& text,
                               const QKeySequence& taste, auto tun) {
     QAction* aktion = menue.addAction(text, this, tun);
@@ -100,6 +99,11 @@ void frmLageplan::MenueAufbauen() {
     aktion->setShortcut(taste);
     return aktion;
   };
+  QAction* zurueck = eintrag(bearbeiten, u"mnuRueckgaengig"_s, u"&Rückgängig"_s, QKeySequence::Undo, [this] {
+    if (!picPlan->SchrittZurueck()) ablauf_.Befehlen(Befehl::Rueckgaengig);
+  });
+  zurueck->setShortcutContext(Qt::WidgetShortcut);
+  EintraegeAnlegen(bearbeiten, Bearbeiten, ablauf_);
   // The keys of these two are those of the drawing alone; a field deletes its own letters.
   for (QAction* aktion : {eintrag(bearbeiten, u"mnuWahlLoeschen"_s, u"&Löschen"_s, Qt::Key_Delete,
                                   [this] { picPlan->WahlLoeschen(); }),
