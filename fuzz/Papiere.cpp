@@ -1,163 +1,20 @@
-#include <QGuiApplication>
-#include <QImage>
-#include <QPaintDevice>
-#include <QPaintEngine>
-#include <QPainter>
-#include <QPainterPath>
-#include <cmath>
-#include <vector>
-
-#include "fuzz/Kataloge.h"
-#include "fuzz/Vorrat.h"
-#include "print/Kurven.h"
-#include "print/Mappe.h"
-#include "station/Optionen.h"
-#include "station/Vorschau.h"
-#include "tests/persistence/Muster.h"
+#include "fuzz/Papier.h"
 
 namespace vesk {
 
 namespace {
 
-/// Takes a page and draws nothing: all of it must lie at places that are numbers, and its letters on the
-/// sheet.
-class Pruefgeraet : public QPaintDevice {
- public:
-  static constexpr double JeMillimeter = 10;
-
-  explicit Pruefgeraet(QSizeF blatt) : blatt_({0, 0}, blatt) {}
-  QPaintEngine* paintEngine() const override { return &werk_; }
-
- protected:
-  int metric(PaintDeviceMetric was) const override {
-    switch (was) {
-      case PdmDevicePixelRatio:
-        return 1;
-      case PdmDevicePixelRatioScaled:
-        return QPaintDevice::metric(was);
-      case PdmWidth:
-        return int(blatt_.width() * JeMillimeter);
-      case PdmHeight:
-        return int(blatt_.height() * JeMillimeter);
-      default:
-        return int(25.4 * JeMillimeter);
-    }
-  }
-
- private:
-  class Werk : public QPaintEngine {
-   public:
-    explicit Werk(const QRectF& blatt) : QPaintEngine(AllFeatures), blatt_(blatt) {}
-    bool begin(QPaintDevice*) override { return true; }
-    bool end() override { return true; }
-    Type type() const override { return User; }
-    void updateState(const QPaintEngineState&) override {}
-    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
-    void drawTextItem(const QPointF& punkt, const QTextItem& stueck) override {
-      const QPointF anfang = Abbild().map(punkt) / JeMillimeter;
-      const QPointF ende = Abbild().map(punkt + QPointF(stueck.width(), 0)) / JeMillimeter;
-      constexpr double Spiel = 0.5;
-      const QRectF erlaubt = blatt_.adjusted(-Spiel, -Spiel, Spiel, Spiel);
-      Pruefen(erlaubt.contains(anfang) && erlaubt.contains(ende));
-    }
-    void drawPath(const QPainterPath& pfad) override { Ort(Abbild().mapRect(pfad.boundingRect())); }
-    void drawPolygon(const QPointF* punkte, int zahl, PolygonDrawMode) override {
-      for (int i = 0; i < zahl; ++i) Ort({punkte[i], punkte[i]});
-    }
-    void drawLines(const QLineF* linien, int zahl) override {
-      for (int i = 0; i < zahl; ++i) Ort({linien[i].p1(), linien[i].p2()});
-    }
-
-   private:
-    QTransform Abbild() const { return painter()->combinedTransform(); }
-    static void Ort(const QRectF& r) {
-      for (const double wert : {r.left(), r.top(), r.right(), r.bottom()}) Pruefen(std::isfinite(wert));
-    }
-    const QRectF& blatt_;
-  };
-  QRectF blatt_;
-  mutable Werk werk_{blatt_};
-};
-
-/// Every text of a station that a paper can show, in the order in which the bytes number them.
-std::vector<std::string*> Texte(Station& s, Kataloge& k) {
-  std::vector<std::string*> texte{&s.Fusszeile, &s.UserDatei, &s.winkel.datei, &s.winkel.herkunft};
-  for (Planobjekt& objekt : s.lageplan.objekte) texte.push_back(&objekt.name);
-  if (!s.lageplan.objekte.empty()) texte.push_back(&s.lageplan.bezugsname);
-  for (const auto feld : Benutzerfelder) texte.push_back(&(s.benutzer.*feld));
-  for (const auto text : Eingabetexte) texte.push_back(&(s.werte.*text));
-  Winkelseite& w = s.winkel;
-  for (std::string* text : {&w.antenne, &w.gewinn, &w.frequenz, &w.AntEinPWR, &w.massstab}) {
-    texte.push_back(text);
-  }
-  for (std::string& text : k.kabel.liste) texte.push_back(&text);
-  for (std::string& zelle : s.Zellen) texte.push_back(&zelle);
-  for (Datenblattspalte& satz : s.Datenblattspalten) {
-    for (std::string* text :
-         {&satz.Modulationsfaktor, &satz.Zyklusfaktor, &satz.KabelLaenge, &satz.KabelIndex, &satz.Antenne,
-          &satz.D100, &satz.Kabeldaempfung, &satz.Stecker, &satz.Gesamtdaempfung, &satz.QRG, &satz.Gewinn,
-          &satz.Winkeldaempfung}) {
-      texte.push_back(text);
-    }
-    for (std::string& text : satz.Winkel) texte.push_back(&text);
-  }
-  return texte;
-}
-
 constexpr std::size_t Papierarten = 10;
 
-void Malen(const Mappe& mappe, std::size_t seite, bool bild) {
-  const QSizeF blatt = Blattgroesse(Seitenformat(mappe, seite));
-  if (bild) {
-    constexpr double JeMillimeter = 1;
-    QImage pixel((blatt * JeMillimeter).toSize(), QImage::Format_RGB32);
-    pixel.fill(Qt::white);
-    QPainter maler(&pixel);
-    SeiteMalen(mappe, seite, maler, JeMillimeter);
-    return;
-  }
-  Pruefgeraet geraet(blatt);
-  QPainter maler(&geraet);
-  SeiteMalen(mappe, seite, maler, Pruefgeraet::JeMillimeter);
-}
-
-/// A station with everything filled, but mostly only one column: each costs a page of formulas.
-Station Grundlage(std::size_t spalten) {
-  Station s = Musterstation();
-  const auto leer = static_cast<std::ptrdiff_t>(spalten) * AnzahlZeilen;
-  std::fill(s.Zellen.begin() + leer, s.Zellen.end(), std::string());
-  return s;
-}
-
-/// An object of each kind, sound as long as the bytes do not shift its corners or its figures.
-Lageplan Probeplan(Vorrat vorrat) {
-  const auto versatz = [&] { return double(vorrat.Bits<std::int16_t>()) / 8; };
-  Lageplan plan;
-  plan.summe = vorrat.Ja();
-  plan.format = vorrat.Ja() ? Planformat::A3 : Planformat::A4;
-  plan.massstab = Planmassstaebe.at(vorrat.Wahl(Planmassstaebe.size()));
-  const bool drehbar = vorrat.Ja();
-  const auto ebene = static_cast<Winkelebene>(vorrat.Wahl(3));
-  for (std::size_t i = 0; i < AnzahlPlanarten; ++i) {
-    Planobjekt objekt{.art = static_cast<Planart>(i), .hoehe = std::abs(versatz()), .radius = 2};
-    const double ecke = 3 * double(i);
-    objekt.punkte = {{ecke, ecke}, {ecke + 9, ecke}, {ecke + 9, ecke + 7}, {ecke, ecke + 7}};
-    if (!Artzeile(objekt.art).umriss) objekt.punkte.resize(1);
-    for (Punkt& punkt : objekt.punkte) punkt = {punkt.x + versatz(), punkt.y + versatz()};
-    objekt.spalten = 0x7F;
-    objekt.drehbar = drehbar;
-    objekt.von = versatz() / 16;
-    objekt.bis = versatz() / 16;
-    objekt.ebene = ebene;
-    plan.objekte.push_back(std::move(objekt));
-  }
-  plan.nord = versatz() / 32;
-  plan.bezugsname = "Grenzstein";
-  return Planueberschreitung(plan) ? Lageplan() : plan;
+/// One document each time. The two that hold the others come seldom and with few texts: what they add is how
+/// the others lie in them, and they take as long as all of them.
+Papierart Art(std::size_t wahl, std::size_t laenge) {
+  constexpr std::size_t Kurz = 128;
+  const bool eigene = wahl < Papierarten && (wahl > 1 || laenge <= Kurz);
+  return static_cast<Papierart>(eigene ? wahl : 2 + wahl % (Papierarten - 2));
 }
 
 void Fuzzen(Vorrat& vorrat, std::size_t laenge) {
-  // One document each time, and of the thick ones only a page. Those that hold all others come seldom.
   const std::size_t art = vorrat.Wahl(32);
   const std::size_t seite = vorrat.Wahl(64);
   const std::size_t kurve = vorrat.Wahl(4);
@@ -167,42 +24,17 @@ void Fuzzen(Vorrat& vorrat, std::size_t laenge) {
   OptionenVorbelegen(s, k);
   s.papiere.passend = vorrat.Ja();
   s.modus = vorrat.Ja() ? Modus::Leistung : Modus::Abstand;
-  s.papiere.art = static_cast<Papierart>(art < Papierarten ? art : 2 + art % (Papierarten - 2));
+  s.papiere.art = Art(art, laenge);
   if (kurve < 3) s.papiere.kurve = static_cast<Winkelkurve>(kurve);
   vorrat.Zeile();
-  if (const std::string plan = vorrat.Zeile(); !plan.empty()) {
-    s.lageplan = Probeplan({reinterpret_cast<const std::uint8_t*>(plan.data()), plan.size()});
-  }
-  const std::vector<std::string*> texte = Texte(s, k);
-  while (!vorrat.Leer()) {
-    const std::size_t stelle = vorrat.Wahl(256);
-    *texte.at(stelle % texte.size()) = vorrat.Zeile();
-  }
-  const Mappe mappe = MappeBilden(s, k, AuftragAus(s, QDate(2026, 3, 4)));
-  const std::size_t seiten = Seitenzahl(mappe);
-  const bool darfFehlen = s.papiere.art == Papierart::Winkel || s.papiere.art == Papierart::Lageplan;
-  Pruefen(seiten <= 60 + laenge / 8 && (seiten > 0 || darfFehlen));
-  if (seiten > 0) Malen(mappe, seite % seiten, bild);
+  Auslegen(vorrat, laenge, s, k, seite, bild);
 }
 
 }  // namespace
 
 }  // namespace vesk
 
-/// The toolkit keeps its fonts until the end.
-extern "C" const char*
-__asan_default_options() {  // NOLINT(bugprone-reserved-identifier): the sanitizer's name
-  return "detect_leaks=0";
-}
-
-extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QGuiApplication anwendung(*argc, *argv);
-  return 0;
-}
-
-/// A paper of a station that holds any texts: choices in the first line, then a line for each text, which
-/// begins with its place. The second line is the site plan.
+/// A paper of a station that holds any texts: choices in the first line, then the texts.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
   vesk::Vorrat vorrat(daten, laenge);
   vesk::Fuzzen(vorrat, laenge);

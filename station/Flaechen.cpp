@@ -98,6 +98,7 @@ struct Gebiet::Polygone {
 
 Gebiet::Gebiet(const std::vector<Umriss>& umrisse) : polygone_(std::make_unique<Polygone>()) {
   for (const Umriss& umriss : umrisse) {
+    if (umriss.empty()) continue;  // of nothing and nothing the library takes no measure
     Polygonmenge vereinigt;
     bg::union_(polygone_->menge, AlsPolygon(umriss), vereinigt);
     polygone_->menge = std::move(vereinigt);
