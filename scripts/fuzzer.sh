@@ -27,7 +27,7 @@ fuzzer_lauf() {
   [[ $1 == nacht ]] || vergleiche=0
   # Half the time would go into remembering where memory came from; a run of the crash alone tells. Much freed
   # memory and the account of how often each edge was seen cost the thick ones another quarter.
-  if ASAN_OPTIONS=malloc_context_size=0:quarantine_size_mb=2:thread_local_quarantine_size_kb=64 \
+  if ASAN_OPTIONS=malloc_context_size=0:quarantine_size_mb=1:thread_local_quarantine_size_kb=16 \
     "$programm" -runs="$3" -max_len="$4" -seed="$5" -use_cmp=$vergleiche -dict=fuzz/Woerter.dict -timeout=60 \
     -entropic=0 -reload=0 -artifact_prefix="$ordner/$name." -seed_inputs="${anfang%,}" "$ordner/$name" &>"$ordner/$name.log"; then
     fuzzer_ergebnis "$name" "$ordner/$name.log"
