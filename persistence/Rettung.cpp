@@ -129,8 +129,9 @@ enum class Ausgang { Geschrieben, Vergeben, Gescheitert };
 Ausgang Schreiben(const fs::path& pfad, const fs::path& vorbild, const std::string& bytes,
                   Dateisperre& sperre) try {
   std::error_code egal;
+  // A copy is never a link, and what a link leads to is nothing that it may touch or fail for.
+  if (fs::is_symlink(fs::symlink_status(pfad, egal))) return Ausgang::Vergeben;
   Neufassung neu(pfad, vorbild);
-  // A link that somebody has put there, too, is not what the lock is held of.
   if (fs::exists(fs::symlink_status(pfad, egal)) && !sperre.Gilt(pfad)) return Ausgang::Vergeben;
   neu.Schreiben(bytes);
   neu.Ersetzen();

@@ -22,7 +22,7 @@ QFontMetricsF Masse(const Schrift& schrift) {
   return QFontMetricsF(Papierschrift(schrift));
 }
 
-constexpr qsizetype LaengsteZeile = 1000;  // more characters never stand beside each other
+constexpr qsizetype LaengsteZeile = 1000;  // more characters that have a width never stand beside each other
 
 /// Length of the longest head of `text` that is no wider than `breite`, at least one character, and never
 /// through the midst of one.

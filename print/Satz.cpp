@@ -112,7 +112,7 @@ Block Ueberschrift(const QString& text, const QString& rechts) {
           .malen =
               [=](Blatt& blatt, double oben) {
                 const double grund = oben + Oberlaenge(fett);
-                const double platz = Hochsatz().width() - Textbreite(rechts, klein);
+                const double platz = Hochsatz().width() - Textbreite(rechts, klein) - 4;
                 blatt.Text({Hochsatz().left(), grund}, Gekuerzt(text, fett, platz), fett);
                 blatt.Text({Hochsatz().right(), grund}, rechts, klein, Buendig::Rechts);
               },

@@ -20,16 +20,16 @@ fuzzer_ergebnis() {
 
 # fuzzer_lauf ART NAME LAEUFE BYTES SAAT
 fuzzer_lauf() {
-  local ordner=build/fuzz/$1 name=$2 programm=build/fuzz/fuzz/$2 vergleiche=1 anfang
+  local ordner=build/fuzz/$1 name=$2 programm=build/fuzz/fuzz/$2 vergleiche=1 gewichten=1 freies=16 anfang
   mkdir -p "$ordner/$name"
   anfang=$(LC_ALL=C && printf '%s,' "fuzz/corpus/$name"/*)
-  # What is compared is often an address, and those differ from run to run.
-  [[ $1 == nacht ]] || vergleiche=0
-  # Half the time would go into remembering where memory came from; a run of the crash alone tells. Much freed
-  # memory and the account of how often each edge was seen cost the thick ones another quarter.
-  if ASAN_OPTIONS=malloc_context_size=0:quarantine_size_mb=1:thread_local_quarantine_size_kb=16 \
+  # What is compared is often an address, and those differ from run to run. Much freed memory and the account of
+  # how often each edge was seen cost the thick ones half of their time.
+  [[ $1 == nacht ]] || vergleiche=0 gewichten=0 freies=1:thread_local_quarantine_size_kb=16
+  # Half the time would go into remembering where memory came from; a run of the crash alone tells.
+  if ASAN_OPTIONS=malloc_context_size=0:quarantine_size_mb=$freies \
     "$programm" -runs="$3" -max_len="$4" -seed="$5" -use_cmp=$vergleiche -dict=fuzz/Woerter.dict -timeout=60 \
-    -entropic=0 -reload=0 -artifact_prefix="$ordner/$name." -seed_inputs="${anfang%,}" "$ordner/$name" &>"$ordner/$name.log"; then
+    -entropic=$gewichten -reload=0 -artifact_prefix="$ordner/$name." -seed_inputs="${anfang%,}" "$ordner/$name" &>"$ordner/$name.log"; then
     fuzzer_ergebnis "$name" "$ordner/$name.log"
   else
     tail -n 40 "$ordner/$name.log"

@@ -33,6 +33,9 @@ struct Falle {
 };
 const Falle Fallen[] = {
     {"link", [](const fs::path& opfer, const fs::path& name) { fs::create_symlink(opfer, name); }},
+    {"dangling link",
+     [](const fs::path& opfer, const fs::path& name) { fs::create_symlink(opfer / "x", name); }},
+    {"circular link", [](const fs::path&, const fs::path& name) { fs::create_symlink(name, name); }},
     {"hard link", [](const fs::path& opfer, const fs::path& name) { fs::create_hard_link(opfer, name); }},
     {"directory", [](const fs::path&, const fs::path& name) { fs::create_directory(name); }},
 };
@@ -72,6 +75,8 @@ TEST_F(HindernisseTest, DieKopieNimmtEinenFreienNamen) {
     EXPECT_TRUE(lauf.ablauf.Beenden());
   }
   Anlegen(user, MusterMit("eins"));
+  const fs::path rest = anderswo / ".opfer.neu";  // of another saving, beside what a link leads to
+  Anlegen(rest, "angefangen");
   for (const std::string zusatz : {"", ".neu"}) {
     for (const Falle& falle : Fallen) {
       const fs::path belegt = name.string() + zusatz;
@@ -81,7 +86,7 @@ TEST_F(HindernisseTest, DieKopieNimmtEinenFreienNamen) {
       lauf.ablauf.RettungSichern();
       fs::remove(belegt);
       EXPECT_NE(Inhalt(Kopie(ordner.pfad)).find("getippt"), std::string::npos) << falle.art << zusatz;
-      EXPECT_EQ(Inhalt(opfer), "unersetzlich") << falle.art << zusatz;
+      EXPECT_EQ(Inhalt(opfer) + Inhalt(rest), "unersetzlichangefangen") << falle.art << zusatz;
       fs::remove(Kopie(ordner.pfad));
     }
   }
