@@ -184,7 +184,7 @@ void Zeichnung::Gitter(const Achsenskala& x, const Achsenskala& y) {
 void Zeichnung::Achsenzahlen(const Achsenskala& x, const Achsenskala& y) {
   const double platz = Zahlenbreite(x) + Luft;
   const double grund = y.anfang + Oberlaenge(klein_) + Luft;
-  double frei = x.anfang - platz;
+  double frei = x.anfang - Luft - Zahlenbreite(y);  // as far as the numbers of the other axis
   for (const Achsenstrich& strich : Achsenstriche(x)) {
     const QString text = Achsenzahl(strich.wert);
     const double breite = Textbreite(text, klein_);
