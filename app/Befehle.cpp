@@ -118,7 +118,7 @@ void Programm::DateiOeffnen(const QString& name) {
       return Meldungen{};
     });
   };
-  if (pfad.extension() == ".ang") {
+  if (HatEndung(pfad, ".ang")) {
     bool offen = false;
     oeffnen([&] { offen = WinkelOeffnen(station_, *this, pfad); });
     if (!offen) return;

@@ -8,6 +8,7 @@
 #include "persistence/Dateigrenzen.h"
 #include "persistence/Kabeldatei.h"
 #include "persistence/Pfade.h"
+#include "station/Text.h"
 
 namespace vesk {
 
@@ -25,8 +26,9 @@ constexpr std::array<Katalogart, 2> Katalogarten = {
 };
 
 const Katalogart* Art(const fs::path& pfad) {
-  const auto* art = std::find_if(Katalogarten.begin(), Katalogarten.end(),
-                                 [&](const Katalogart& eine) { return pfad.filename() == eine.name; });
+  const auto* art = std::find_if(Katalogarten.begin(), Katalogarten.end(), [&](const Katalogart& eine) {
+    return Heisst(pfad, Kleinbuchstaben(eine.name));
+  });
   return art == Katalogarten.end() ? nullptr : art;
 }
 

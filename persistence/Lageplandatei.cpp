@@ -4,7 +4,6 @@
 
 #include "persistence/Lageplanfelder.h"
 #include "persistence/Pfade.h"
-#include "station/Text.h"
 
 namespace vesk {
 
@@ -97,7 +96,7 @@ Json Bild(const Planobjekt& objekt) {
 
 fs::path Lageplanpfad(const fs::path& userdatei) {
   // "user.txt" is another file than "user.dat"; so are their plans.
-  const bool dat = Kleinbuchstaben(PfadAlsUtf8(userdatei.extension())) == ".dat";
+  const bool dat = HatEndung(userdatei, ".dat");
   fs::path pfad = dat ? userdatei.parent_path() / userdatei.stem() : userdatei;
   return pfad += ".lageplan";
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <system_error>
 
+#include "station/Text.h"
+
 namespace vesk {
 
 namespace fs = std::filesystem;
@@ -31,6 +33,14 @@ fs::path WirklicherPfad(const fs::path& pfad) {
   std::error_code fehler;
   fs::path wirklich = fs::weakly_canonical(fs::absolute(pfad, fehler), fehler);
   return fehler ? pfad : wirklich;
+}
+
+bool HatEndung(const fs::path& pfad, std::string_view endung) {
+  return Kleinbuchstaben(PfadAlsUtf8(pfad.extension())) == endung;
+}
+
+bool Heisst(const fs::path& pfad, std::string_view name) {
+  return Kleinbuchstaben(PfadAlsUtf8(pfad.filename())) == name;
 }
 
 std::string PfadZumZeigen(fs::path pfad) {

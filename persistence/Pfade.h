@@ -13,6 +13,9 @@ std::filesystem::path PfadAusUtf8(std::string_view text);
 std::string PfadAlsUtf8(const std::filesystem::path& pfad);
 /// Absolute and without links, as far as the file system answers.
 std::filesystem::path WirklicherPfad(const std::filesystem::path& pfad);
+/// In small or in capital letters; both are in small ones here: ".dat", "kabel.txt".
+bool HatEndung(const std::filesystem::path& pfad, std::string_view endung);
+bool Heisst(const std::filesystem::path& pfad, std::string_view name);
 /// As the system writes it.
 std::string PfadZumZeigen(std::filesystem::path pfad);
 

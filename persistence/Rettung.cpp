@@ -15,7 +15,6 @@
 #include "persistence/Neufassung.h"
 #include "persistence/Pfade.h"
 #include "persistence/UserDatei.h"
-#include "station/Text.h"
 
 namespace vesk {
 
@@ -55,10 +54,6 @@ std::optional<std::string> TeilLesen(std::string_view& bytes) {
   return teil;
 }
 
-bool Heisst(const fs::path& datei, std::string_view endung) {
-  return Kleinbuchstaben(PfadAlsUtf8(datei.extension())) == endung;
-}
-
 bool IstUserDatei(const Gelesen& datei) {
   return !WarumUnbrauchbar({}, datei, false);
 }
@@ -86,9 +81,9 @@ std::optional<Rettung::Fund> Lesen(const fs::path& pfad) {
       pfad, PfadAusUtf8(teile[0]), {teile[1], teile[2], PfadAusUtf8(teile[3]), std::move(plan)}};
   // What a copy names is written to, and whoever has put it here has chosen that: other files are not
   // believed.
-  const bool user = Heisst(fund.datei, ".dat") || IstUserDatei(DateiLesen(fund.datei, grenzen::UserDatei));
+  const bool user = HatEndung(fund.datei, ".dat") || IstUserDatei(DateiLesen(fund.datei, grenzen::UserDatei));
   if (!user) fund.datei.clear();
-  if (!Heisst(fund.inhalt.winkeldatei, ".ang")) fund.inhalt.winkeldatei.clear();
+  if (!HatEndung(fund.inhalt.winkeldatei, ".ang")) fund.inhalt.winkeldatei.clear();
   return fund;
 }
 

@@ -80,13 +80,13 @@ TEST_F(Wege, ZurueckUndVorInJedemFenster) {
 
 TEST_F(Wege, FallengelasseneDateien) {
   auto& feld = Ding<>(u"txtQRG"_s);
-  Fallenlassen(Datei(u"turm.ang"_s, "[Turm]\r\n12\r\n144\r\n0\r\n1\r\n"), feld);
+  Fallenlassen(Datei(u"TURM.ANG"_s, "[Turm]\r\n12\r\n144\r\n0\r\n1\r\n"), feld);
   EXPECT_EQ(Text(u"txtWAntenne"_s, u"frmOptions"_s) + Text(u"txtQRG"_s), u"Turm");
   const QString kabel = Datei(u"Kabel.txt"_s, "");
   QTemporaryDir anderswo;
-  QFile::copy(QStringLiteral(VESK_DATEN) + u"/Kabel.txt"_s, anderswo.filePath(u"Kabel.txt"_s));
+  QFile::copy(QStringLiteral(VESK_DATEN) + u"/Kabel.txt"_s, anderswo.filePath(u"KABEL.TXT"_s));
   buehne.boxen.Erwarten("Katalog übernehmen", "Kabel-alt.txt", Antwort::Ja);
-  Fallenlassen(anderswo.filePath(u"Kabel.txt"_s), feld);
+  Fallenlassen(anderswo.filePath(u"KABEL.TXT"_s), feld);
   EXPECT_TRUE(QFile::exists(filePath(u"Kabel-alt.txt"_s)) && QFileInfo(kabel).size() > 0);
   buehne.boxen.Erwarten("Vesk - Fehlermeldung", "leer", Antwort::OK);
   Fallenlassen(Datei(u"leer.dat"_s, ""), feld);
