@@ -145,7 +145,27 @@ class Stapel {
     Rechenauftrag auftrag = vorgabe_;
     Uebernehmen(angaben, "", auftrag);
     VollstaendigkeitPruefen(auftrag);
+    DezimalzeichenPruefen();
     return auftrag;
+  }
+
+  /// Where commas stand before the decimals, "1.000" may well be a thousand: a table keeps to the sign that
+  /// its first number with one bears. Throws Eingabefehler.
+  void DezimalzeichenPruefen() {
+    char zeichen = dezimalzeichen_;
+    for (std::size_t i = 0; i < zellen_.size(); ++i) {
+      const auto gefunden =
+          std::find_if(zellen_[i].begin(), zellen_[i].end(), [](char z) { return z == '.' || z == ','; });
+      if (gefunden == zellen_[i].end() || *gefunden == zeichen) continue;
+      if (zeichen != 0) {
+        throw Eingabefehler(std::string(Angabenamen[static_cast<std::size_t>(kopf_.spalten[i])]) + ": „" +
+                            Gekuerzt(zellen_[i]) +
+                            "“ ist nicht eindeutig, das Dezimalzeichen der Tabelle ist " +
+                            (zeichen == ',' ? "das Komma." : "der Punkt."));
+      }
+      zeichen = *gefunden;
+    }
+    dezimalzeichen_ = zeichen;
   }
 
   void Rechnen(std::size_t zeile, Rechenauftrag auftrag) {
@@ -172,6 +192,7 @@ class Stapel {
   Kopf kopf_;
   std::variant<std::monostate, Jsonschreiber, Csvschreiber> schreiber_;  ///< none: waits for the first row
   std::vector<std::string_view> zellen_;
+  char dezimalzeichen_ = 0;  ///< of the rows so far; 0: none has one
   Puffer aus_;
   Puffer fehler_;
   bool alleGut_ = true;
