@@ -22,12 +22,18 @@ QFontMetricsF Masse(const Schrift& schrift) {
   return QFontMetricsF(Papierschrift(schrift));
 }
 
-constexpr qsizetype LaengsteZeile = 1000;  // more characters that have a width never stand beside each other
+/// What of a text can stand in one line at all: more characters that have a width never fit beside each
+/// other.
+QString Zeilenanfang(const QString& text) {
+  constexpr qsizetype Laengste = 1000;
+  const bool mitten = text.size() > Laengste && text.at(Laengste - 1).isHighSurrogate();
+  return text.left(mitten ? Laengste - 1 : Laengste);
+}
 
 /// Length of the longest head of `text` that is no wider than `breite`, at least one character, and never
 /// through the midst of one.
 qsizetype Passend(const QString& text, const QFont& font, double breite) {
-  QTextLayout satz(text.left(LaengsteZeile), font);
+  QTextLayout satz(Zeilenanfang(text), font);
   QTextOption ueberall;
   ueberall.setWrapMode(QTextOption::WrapAnywhere);
   satz.setTextOption(ueberall);
@@ -118,11 +124,11 @@ Schrift Eingepasst(const QString& text, Schrift schrift, double breite, double m
   return schrift;
 }
 
-QString Gekuerzt(QString text, const Schrift& schrift, double breite) {
-  if (text.size() <= LaengsteZeile && Textbreite(text, schrift) <= breite) return text;
+QString Gekuerzt(const QString& text, const Schrift& schrift, double breite) {
+  const QString anfang = Zeilenanfang(text);
+  if (anfang.size() == text.size() && Textbreite(text, schrift) <= breite) return text;
   const QString mehr = u" …"_s;
-  text.truncate(LaengsteZeile);
-  return Umbrechen(text, schrift, breite - Textbreite(mehr, schrift), 1).first() + mehr;
+  return Umbrechen(anfang, schrift, breite - Textbreite(mehr, schrift), 1).first() + mehr;
 }
 
 Blatt::Blatt(QPainter& maler, double jeMillimeter) : maler_(maler) {
@@ -147,7 +153,7 @@ void Blatt::Text(QPointF punkt, const QString& text, const Schrift& schrift, Bue
 
 void Blatt::Einzeiler(QPointF punkt, double breite, const QString& text, const Schrift& schrift,
                       double mindestens, Buendig buendig) {
-  const Schrift passend = Eingepasst(text.left(LaengsteZeile), schrift, breite, mindestens);
+  const Schrift passend = Eingepasst(Zeilenanfang(text), schrift, breite, mindestens);
   Text(punkt, Gekuerzt(text, passend, breite), passend, buendig);
 }
 

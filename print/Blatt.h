@@ -45,7 +45,7 @@ QStringList Umbrechen(const QString& text, const Schrift& schrift, double breite
 Schrift Eingepasst(const QString& text, Schrift schrift, double breite, double mindestens);
 
 /// `text` in one line of `breite`, with an ellipsis for what does not fit.
-QString Gekuerzt(QString text, const Schrift& schrift, double breite);
+QString Gekuerzt(const QString& text, const Schrift& schrift, double breite);
 
 enum class Buendig { Links, Mitte, Rechts };
 

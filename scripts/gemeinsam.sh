@@ -98,9 +98,10 @@ bauen() {
 
 # clang_tidy [SWITCH...]: the product. Headers are read through the sources that include them. Those for Windows
 # need the headers of its compiler. It cannot read what another compiler has precompiled.
+tidy_quellen=('*.cpp')
 clang_tidy() {
   cmake --preset release -B build/tidy -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DVESK_TESTS=OFF -DVESK_BENCH=OFF \
     >/dev/null || return
-  git ls-files -z -- '*.cpp' ':!fuzz' ':!tests' ':!bench' ':!*Windows.cpp' |
+  git ls-files -z -- "${tidy_quellen[@]}" ':!fuzz' ':!tests' ':!bench' ':!*Windows.cpp' |
     xargs -0 -n 1 -P "$(nproc)" clang-tidy-14 --quiet -p build/tidy "$@" 2> >(grep -v 'warnings\? generated' >&2)
 }

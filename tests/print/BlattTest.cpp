@@ -16,6 +16,7 @@ const QString Faelle[] = {
     u"e\u0302\u0302"_s.repeated(40),
     u"\U0001F4E1"_s.repeated(40),
     u"אנטנה על הגג "_s.repeated(6),
+    QString(999, QChar(u'\u200B')) + u"\U0001F4E1"_s,
     QString(1500, QChar(u'\u200B')),
     QString(3000, u'i'),
 };
@@ -45,6 +46,7 @@ TEST(Blatt, GekuerztesStehtInEinerZeileUndSagtEs) {
     for (const double breite : {12., 500.}) {
       const QString zeile = Gekuerzt(text, {9}, breite);
       EXPECT_LE(Textbreite(zeile, {9}), breite) << zeile.toStdString();
+      EXPECT_TRUE(zeile.isValidUtf16());
       EXPECT_EQ(zeile != text, zeile.endsWith(u" …")) << zeile.toStdString();
     }
   }
