@@ -1,4 +1,6 @@
 // What the user asks of the program beyond the station.
+#include <QTabWidget>
+
 #include "app/Desktoplage.h"
 #include "app/Papierablauf.h"
 #include "app/Pfadtext.h"
@@ -6,7 +8,6 @@
 #include "app/Programm.h"
 #include "persistence/Katalogdateien.h"
 #include "persistence/Tips.h"
-#include "persistence/Winkelablauf.h"
 #include "platform/Plattform.h"
 #include "print/Mappe.h"
 #include "station/Baender.h"
@@ -62,11 +63,11 @@ void Programm::Befehlen(Befehl befehl) {
     case Befehl::BenutzerVerborgen:
       return datei([this] { dateien_.BenutzerVerborgen(); });
     case Befehl::WinkelLaden:
-      return datei([this] { WinkelOeffnen(station_, *this); });
+      return datei([this] { winkel_.Oeffnen(); });
     case Befehl::WinkelSpeichern:
-      return datei([this] { WinkelSpeichern(station_, *this); });
+      return datei([this] { winkel_.Speichern(); });
     case Befehl::WinkelSpeichernUnter:
-      return datei([this] { WinkelSpeichernUnter(station_, *this); });
+      return datei([this] { winkel_.SpeichernUnter(); });
     case Befehl::GeojsonEinlesen:
       return Tun([this](Station& s, const Kataloge& k) { return vesk::GeojsonEinlesen(s, k, *this); });
     case Befehl::HintergrundWaehlen:
@@ -120,7 +121,7 @@ void Programm::DateiOeffnen(const QString& name) {
   };
   if (HatEndung(pfad, ".ang")) {
     bool offen = false;
-    oeffnen([&] { offen = WinkelOeffnen(station_, *this, pfad); });
+    oeffnen([&] { offen = winkel_.Oeffnen(pfad); });
     if (!offen) return;
     Befehlen(Befehl::OptionenZeigen);
     return Optionen().Hinzeigen();
@@ -134,13 +135,22 @@ void Programm::DateiOeffnen(const QString& name) {
 void Programm::KatalogeErneuern() {
   Meldungen meldungen;
   kataloge_ = KatalogeLesen(PfadAusUtf8(station_.ProgrammVerzeichnis), meldungen, ersatz_);
-  // Its lists are those of the former catalogues.
-  optionen_.reset();
-  baender_.reset();
-  diagramme_.reset();
   station_.schaubilder.kabel.reset();
   station_.AntennenIndex = -1;
   station_.antenneNehmbar = false;
+  // Their lists are those of the former catalogues.
+  const auto ersetzen = [this](auto& fenster, auto anlegen) {
+    if (!fenster) return;
+    const auto karten = [&] { return fenster->template findChild<QTabWidget*>(); };
+    const int karte = karten() != nullptr ? karten()->currentIndex() : 0;
+    LageMerken(*fenster, plattform_.speicher);
+    fenster.reset();
+    (this->*anlegen)();
+    if (karten() != nullptr) karten()->setCurrentIndex(karte);
+  };
+  ersetzen(optionen_, &Programm::Optionen);
+  ersetzen(baender_, &Programm::Baender);
+  ersetzen(diagramme_, &Programm::Diagramme);
   Zeigen();
   Sagen(meldungen);
 }

@@ -12,7 +12,6 @@
 #include "persistence/Dateien.h"
 #include "persistence/Katalogdateien.h"
 #include "persistence/Tips.h"
-#include "persistence/Winkelablauf.h"
 #include "platform/Plattform.h"
 #include "station/Haupthandlungen.h"
 #include "station/Optionen.h"
@@ -53,8 +52,9 @@ Meldungen Hindernismeldung(const Verzeichnisse& verzeichnisse) {
   if (verzeichnisse.hindernis.empty()) return {};
   return {{Fehlermeldung("In das Verzeichnis " + PfadZumZeigen(AlsPfad(verzeichnisse.programm)) +
                          " läßt sich nichts schreiben.\n" + verzeichnisse.hindernis +
-                         "\nKabel, Antennen und Tips gelten, wie sie mitgeliefert sind. Ihre Daten speichern "
-                         "Sie bitte mit \"Speichern unter\" in ein anderes Verzeichnis.")}};
+                         "\nWas dort an Kabeln, Antennen und Tips fehlt, gilt, wie es mitgeliefert ist. Ihre "
+                         "Daten speichern Sie bitte mit \"Speichern unter\" in ein anderes Verzeichnis; "
+                         "nach einem Absturz wäre verloren, was nicht gespeichert ist.")}};
 }
 
 template <typename Fenster, typename... Werte>
@@ -78,6 +78,7 @@ Programm::Programm(Station& station, Plattform& plattform, const Verzeichnisse& 
       kataloge_(KatalogeLesen(AlsPfad(verzeichnisse.programm), startmeldungen_, ersatz_)),
       hauptfenster_(*this, kataloge_, plattform.ton),
       dateien_(station_, kataloge_, *this),
+      winkel_(station_, *this),
       hilfetaste_(plattform.hilfe),
       tastenwege_(*this),
       abwurf_(*this) {

@@ -8,6 +8,7 @@
 #include "app/Verzeichnisse.h"
 #include "persistence/Dateiablauf.h"
 #include "persistence/Rueckfragen.h"
+#include "persistence/Winkelablauf.h"
 #include "station/Verlauf.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/info/Hilfetaste.h"
@@ -109,6 +110,7 @@ class Programm : public QObject, public Ablauf, private Rueckfragen {
   std::unique_ptr<frmTip> tip_;
   std::unique_ptr<frmInfo> info_;
   Dateiablauf dateien_;
+  Winkelablauf winkel_;
   Verlauf verlauf_;
   bool inHandlung_ = false;
   Hilfetaste hilfetaste_;

@@ -18,7 +18,10 @@ constexpr int Takt = 10;       // ms
 }  // namespace
 
 void Programm::RettungSichern() {
-  if (!beendet_) dateien_.RettungSichern();
+  if (beendet_) return;
+  const bool vorher = station_.ohneRettung;
+  dateien_.RettungSichern();
+  if (station_.ohneRettung != vorher) Zeigen();
 }
 
 void Programm::Beenden() {

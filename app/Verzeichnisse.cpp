@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
+#include <algorithm>
 
 #include "app/Pfadtext.h"
 #include "persistence/Dateien.h"
@@ -57,11 +58,15 @@ std::string MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzersp
   std::error_code fehler;
   std::filesystem::create_directories(AlsPfad(verzeichnisse.programm), fehler);
   if (fehler) return Fehlertext(fehler.default_error_condition().value());
-  if (verzeichnisse.daten.isEmpty()) return {};
+  std::string hindernis = WarumNichtBeschreibbar(AlsPfad(verzeichnisse.programm)).value_or("");
+  if (verzeichnisse.daten.isEmpty()) return hindernis;
   const QString schluessel = QString::fromLatin1(QUrl::toPercentEncoding(verzeichnisse.programm));
-  std::string hindernis;
-  for (const QString& name : {u"Kabel.txt"_s, u"Antennen.txt"_s, u"TIPOFDAY.TXT"_s}) {
-    if (speicher.Lesen(name, schluessel)) continue;
+  const std::initializer_list<QString> namen = {u"Kabel.txt"_s, u"Antennen.txt"_s, u"TIPOFDAY.TXT"_s};
+  const QDir verzeichnis(verzeichnisse.programm);
+  const bool leer =
+      std::none_of(namen.begin(), namen.end(), [&](const QString& name) { return verzeichnis.exists(name); });
+  for (const QString& name : namen) {
+    if (!leer && speicher.Lesen(name, schluessel)) continue;
     const QString ziel = verzeichnisse.programm + u'/' + name;
     if (!QFileInfo::exists(ziel)) {
       if (Fehlergrund grund = DateiKopieren(AlsPfad(verzeichnisse.daten + u'/' + name), AlsPfad(ziel))) {

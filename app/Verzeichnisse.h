@@ -22,8 +22,8 @@ Verzeichnisse VerzeichnisseBestimmen(const QString& gewuenscht, const QString& a
 void MerkspeicherBestimmen(const Verzeichnisse& verzeichnisse);
 
 /// Creates the program directory if it is missing and copies the shipped catalogues and tips there, so that
-/// the user may edit them. A file is copied once: one that the user has deleted stays deleted. Returns why it
-/// was not possible; empty: it was.
+/// the user may edit them. A file is copied once: one that the user has deleted stays deleted, as long as he
+/// has not deleted all of them. Returns why nothing can be written there; empty: it can.
 std::string MitgelieferteKopieren(const Verzeichnisse& verzeichnisse, Benutzerspeicher& speicher);
 
 }  // namespace vesk

@@ -82,7 +82,7 @@ void FremdePruefen(Vorrat& vorrat, const Ordner& ordner) {
     Anlegen(datei, gespeichert);
     Datieren(datei, stand == 1 ? Zeit - 1 : Zeit + 1);
   }
-  const std::vector<Rettung::Fund> funde = Rettung::Suchen(ordner.Pfad());
+  const std::vector<Rettung::Fund> funde = Rettung::Suchen(ordner.Pfad()).funde;
   Pruefen(funde.size() <= 1 && (funde.empty() || fs::exists(kopie)));
   for (const Rettung::Fund& fund : funde) {
     Pruefen(fund.pfad == kopie && (fund.datei.empty() || fund.datei == datei));
@@ -109,9 +109,9 @@ void RundreisePruefen(Vorrat& vorrat, const Ordner& ordner) {
     rettung.Gesichert("gesichert");
     rettung.Sichern(ordner.Pfad(), datei, inhalt);
     // The copy of a program that runs is nobody's find.
-    Pruefen(Rettung::Suchen(ordner.Pfad()).empty());
+    Pruefen(Rettung::Suchen(ordner.Pfad()).funde.empty());
   }
-  const std::vector<Rettung::Fund> funde = Rettung::Suchen(ordner.Pfad());
+  const std::vector<Rettung::Fund> funde = Rettung::Suchen(ordner.Pfad()).funde;
   const bool nichts = inhalt.user == "gesichert" && inhalt.winkel.empty() && inhalt.plan.empty();
   Pruefen(funde.size() == (nichts ? 0 : 1));
   for (const Rettung::Fund& fund : funde) Pruefen(fund.datei == datei && fund.inhalt == inhalt);

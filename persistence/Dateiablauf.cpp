@@ -86,7 +86,8 @@ void Dateiablauf::Einlesen(bool gewaehlt) {
   station_.neuesRufzeichen = false;
   station_.UserGeaendert = false;
   const Gelesen datei = user_.stand.Lesen(Pfad());
-  PlanEinlesen(datei.status == Lesestatus::Fehlt);
+  station_.ohneDatei = datei.status == Lesestatus::Fehlt;
+  PlanEinlesen(station_.ohneDatei);
   if (datei.status == Lesestatus::Gelesen) {
     Auswerten(datei, gewaehlt);
   } else {
@@ -134,7 +135,13 @@ void Dateiablauf::NichtGelesen(const Gelesen& datei) {
 void Dateiablauf::Umwandeln(const Lesebericht& bericht) {
   if (bericht.version != Dateiversion::ZuAlt && bericht.version != Dateiversion::Umwandelbar) return;
   Sagen(Migrationsmeldung(bericht, station_.UserDatei));
-  const bool kopiert = !DateiKopieren(Pfad(), PfadAusUtf8(station_.Arbeitsverzeichnis) / "User.bak");
+  const fs::path bak = PfadAusUtf8(station_.Arbeitsverzeichnis) / "User.bak";
+  const Gelesen frueher = DateiLesen(bak, grenzen::UserDatei);
+  // What another conversion has put there is needed, too.
+  const bool belegt =
+      frueher.status != Lesestatus::Fehlt && frueher.bytes != DateiLesen(Pfad(), grenzen::UserDatei).bytes;
+  const bool behalten = !belegt || !DateiKopieren(bak, FreierAltname(bak));
+  const bool kopiert = behalten && !DateiKopieren(Pfad(), bak);
   if (kopiert && !bericht.abgebrochen) user_.alteFassungNoetig = false;
   station_.UserGeaendert = true;
 }

@@ -93,6 +93,11 @@ Fehlergrund DateiKopieren(const fs::path& von, const fs::path& nach) {
   });
 }
 
+Fehlergrund WarumNichtBeschreibbar(const fs::path& verzeichnis) {
+  // A full disk still takes names.
+  return Versuchen([&] { Neufassung(verzeichnis / "vesk").Schreiben("x"); });
+}
+
 fs::path FreierAltname(const fs::path& pfad) {
   fs::path name = pfad;
   std::error_code fehler;

@@ -39,6 +39,9 @@ Fehlergrund WarumOhneInhalt(const std::string& name, const Gelesen& datei);
 /// Copies in the same manner, whatever the size.
 [[nodiscard]] Fehlergrund DateiKopieren(const std::filesystem::path& von, const std::filesystem::path& nach);
 
+/// Why no file can be written into a directory; nothing when one can. Leaves none there.
+Fehlergrund WarumNichtBeschreibbar(const std::filesystem::path& verzeichnis);
+
 /// "user-alt.dat" beside "user.dat", or "user-alt2.dat" and so on: a name that is still free.
 std::filesystem::path FreierAltname(const std::filesystem::path& pfad);
 

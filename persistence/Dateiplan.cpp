@@ -62,7 +62,9 @@ bool Dateiablauf::PlanBrauchbar(const std::string& folge) {
 }
 
 Fehlergrund Dateiablauf::BildortAnpassen(const fs::path& plan, const fs::path& vorher) {
-  Lageplan inhalt = Lesung(DateiLesen(plan, grenzen::Lageplan)).plan;
+  const Gelesen datei = DateiLesen(plan, grenzen::Lageplan);
+  if (datei.status == Lesestatus::Fehler) return datei.grund;
+  Lageplan inhalt = Lesung(datei).plan;
   const auto alt = inhalt.hintergrund;
   BildortUmrechnen(inhalt, vorher, plan.parent_path());
   return inhalt.hintergrund == alt ? std::nullopt : DateiSchreiben(plan, LageplanBytes(inhalt), plan);

@@ -25,12 +25,22 @@ std::string Rueckfrage(const Rettung::Fund& fund) {
          (fund.inhalt.winkel.empty() ? "" : " und " + tabelle) + ".\nSollen sie zurückgeholt werden?";
 }
 
+std::string Beiseitegelegt(const std::vector<fs::path>& dateien) {
+  std::string text =
+      "Das Programm wurde nicht ordentlich beendet. Was damals nicht gespeichert war, ist älter als das, was "
+      "jetzt in der Datei steht. Es bleibt daneben erhalten:";
+  for (const fs::path& datei : dateien) text += "\n" + PfadZumZeigen(datei);
+  return text;
+}
+
 }  // namespace
 
 void Dateiablauf::RettungAnbieten() {
   const Vorgang vorgang(*this);
   if (!vorgang) return;
-  for (const Rettung::Fund& fund : Rettung::Suchen(PfadAusUtf8(station_.ProgrammVerzeichnis))) {
+  const Rettung::Suche suche = Rettung::Suchen(PfadAusUtf8(station_.ProgrammVerzeichnis));
+  if (!suche.beiseite.empty()) Sagen(Beiseitegelegt(suche.beiseite));
+  for (const Rettung::Fund& fund : suche.funde) {
     const Hinweis frage{std::string(Produktname), Rueckfrage(fund), Knoepfe::JaNein, Symbol::Frage,
                         Antwort::Ja};
     const Antwort antwort = rueckfragen_.Fragen(frage);
@@ -84,8 +94,10 @@ Rettung::Stand Dateiablauf::RettungErneuern() {
     inhalt.winkeldatei = PfadAusUtf8(station_.winkel.datei);
   }
   if (station_.neuesRufzeichen || !PlanGesichert()) inhalt.plan = LageplanBytes(station_.lageplan);
-  return rettung_.Sichern(PfadAusUtf8(station_.ProgrammVerzeichnis),
-                          station_.neuesRufzeichen ? fs::path() : Pfad(), inhalt);
+  const Rettung::Stand stand = rettung_.Sichern(PfadAusUtf8(station_.ProgrammVerzeichnis),
+                                                station_.neuesRufzeichen ? fs::path() : Pfad(), inhalt);
+  station_.ohneRettung = stand == Rettung::Stand::Gescheitert;
+  return stand;
 }
 
 }  // namespace vesk

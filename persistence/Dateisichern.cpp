@@ -132,6 +132,7 @@ bool Dateiablauf::UserSchreiben(bool auchFremdes) {
   if (!Ersetzen(user_, Pfad(), bytes, auchFremdes)) return false;
   station_.UserGeaendert = false;
   station_.neuesRufzeichen = false;
+  station_.ohneDatei = false;
   station_.titelGesetzt = true;
   station_.fenster.benutzer = false;
   gespeichert_ = BlattJetzt();
@@ -161,12 +162,7 @@ bool Dateiablauf::Ersetzen(Arbeitsdatei& datei, const fs::path& pfad, const std:
 
 bool Dateiablauf::DarfFremdesUeberschreiben(Arbeitsdatei& datei, const fs::path& pfad) {
   const bool lesbar = !datei.abgelehnt && DateiLesen(pfad, grenzen::UserDatei).status != Lesestatus::Fehler;
-  const std::string frage =
-      "Die Datei " + PfadAlsUtf8(pfad.filename()) +
-      (lesbar ? " wurde inzwischen von einem anderen Programm geändert." : " konnte nicht gelesen werden.") +
-      "\nSoll sie mit den Daten aus "
-      "diesem Fenster überschrieben werden? Die andere Fassung bleibt dann als " +
-      PfadAlsUtf8(FreierAltname(pfad).filename()) + " erhalten.";
+  const std::string frage = Ueberschreibfrage(pfad, lesbar ? VonAnderenGeaendert : NichtLesbar);
   return Frage(std::string(Produktname), frage) && AlteFassungBehalten(datei, pfad);
 }
 

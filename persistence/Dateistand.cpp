@@ -2,9 +2,18 @@
 
 #include <system_error>
 
+#include "persistence/Pfade.h"
+
 namespace vesk {
 
 namespace fs = std::filesystem;
+
+std::string Ueberschreibfrage(const fs::path& pfad, const std::string& warum) {
+  return "Die Datei " + PfadAlsUtf8(pfad.filename()) + " " + warum +
+         "\nSoll sie mit den Daten aus diesem Fenster überschrieben werden? Die andere Fassung bleibt dann "
+         "als " +
+         PfadAlsUtf8(FreierAltname(pfad).filename()) + " erhalten.";
+}
 
 Gelesen Dateistand::Lesen(const fs::path& pfad) {
   Gelesen gelesen = DateiLesen(pfad, hoechstens_);

@@ -92,25 +92,32 @@ enum class Vergleich { Fehlt, Gesichert, Ungewiss };
 /// Whether the user will miss `text` of the copy, or the file `datei` says the same or has a later state that
 /// is `brauchbar`.
 Vergleich Vergleichen(const fs::path& kopie, const std::string& text, const fs::path& datei,
-                      std::size_t hoechstens, bool (*brauchbar)(const Gelesen&)) {
+                      std::size_t hoechstens, bool (*brauchbar)(const Gelesen&),
+                      std::vector<fs::path>& beiseite) {
   const Gelesen gelesen = DateiLesen(datei, hoechstens);
   if (gelesen.status != Lesestatus::Gelesen) return Vergleich::Fehlt;
   if (gelesen.bytes == text) return Vergleich::Gesichert;
   if (Aenderungszeit(kopie) > Aenderungszeit(datei) || !brauchbar(gelesen)) return Vergleich::Fehlt;
+  const fs::path alt = FreierAltname(datei);
   // Where there is no room now, another time.
-  return DateiSchreiben(FreierAltname(datei), text, datei) ? Vergleich::Ungewiss : Vergleich::Gesichert;
+  if (DateiSchreiben(alt, text, datei)) return Vergleich::Ungewiss;
+  beiseite.push_back(alt);
+  return Vergleich::Gesichert;
 }
 
 /// Leaves in a find what the user needs to be asked about, and removes one that is nothing else.
-bool Hinfaellig(Rettung::Fund& fund) {
+bool Hinfaellig(Rettung::Fund& fund, std::vector<fs::path>& beiseite) {
   Rettung::Inhalt& inhalt = fund.inhalt;
-  const Vergleich user = Vergleichen(fund.pfad, inhalt.user, fund.datei, grenzen::UserDatei, IstUserDatei);
+  const Vergleich user =
+      Vergleichen(fund.pfad, inhalt.user, fund.datei, grenzen::UserDatei, IstUserDatei, beiseite);
   if (user == Vergleich::Gesichert) inhalt.user.clear();
   Vergleich plan = Vergleich::Gesichert;
   if (!inhalt.plan.empty() && !fund.datei.empty()) {
-    plan = Vergleichen(fund.pfad, inhalt.plan, Lageplanpfad(fund.datei), grenzen::Lageplan, IstLageplan);
+    plan = Vergleichen(fund.pfad, inhalt.plan, Lageplanpfad(fund.datei), grenzen::Lageplan, IstLageplan,
+                       beiseite);
     if (plan == Vergleich::Gesichert) inhalt.plan.clear();
   }
+  if (DateiLesen(inhalt.winkeldatei, grenzen::Winkel).bytes == inhalt.winkel) inhalt.winkel.clear();
   if (user == Vergleich::Ungewiss || plan == Vergleich::Ungewiss) return true;
   if (user == Vergleich::Fehlt || plan == Vergleich::Fehlt || !inhalt.winkel.empty()) return false;
   std::error_code egal;
@@ -152,7 +159,6 @@ Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& dat
   if (dieselbe && inhalt == zuletzt_) return Stand::Gesichert;
   const std::string bytes = Bytes(wirklich, inhalt);
   const bool erneuert = dieselbe && Schreiben(pfad_, datei_, bytes, sperre_) == Ausgang::Geschrieben;
-  // One that cannot be written is no reason to disturb: saving itself tells.
   if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return Stand::Gescheitert;
   zuletzt_ = inhalt;
   return Stand::Gesichert;
@@ -197,7 +203,7 @@ void Rettung::Aufgeben() {
   sperre_ = Dateisperre();
 }
 
-std::vector<Rettung::Fund> Rettung::Suchen(const fs::path& verzeichnis) {
+Rettung::Suche Rettung::Suchen(const fs::path& verzeichnis) {
   std::vector<fs::path> pfade;
   std::error_code fehler;
   fs::directory_iterator eintrag(verzeichnis, fehler);
@@ -205,15 +211,15 @@ std::vector<Rettung::Fund> Rettung::Suchen(const fs::path& verzeichnis) {
   for (; !fehler && eintrag != fs::directory_iterator(); eintrag.increment(fehler)) {
     pfade.push_back(eintrag->path());
   }
-  std::vector<Fund> funde;
+  Suche suche;
   for (const fs::path& pfad : pfade) {
     std::optional<Fund> fund = Lesen(pfad);
-    if (fund && !Hinfaellig(*fund)) funde.push_back(std::move(*fund));
+    if (fund && !Hinfaellig(*fund, suche.beiseite)) suche.funde.push_back(std::move(*fund));
   }
-  std::stable_sort(funde.begin(), funde.end(), [](const Fund& a, const Fund& b) {
+  std::stable_sort(suche.funde.begin(), suche.funde.end(), [](const Fund& a, const Fund& b) {
     return Aenderungszeit(a.pfad) > Aenderungszeit(b.pfad);
   });
-  return funde;
+  return suche;
 }
 
 }  // namespace vesk

@@ -22,7 +22,7 @@ class Rettung {
   struct Fund {
     std::filesystem::path pfad;
     std::filesystem::path datei;  ///< the user's file; empty: a new callsign without a file
-    Inhalt inhalt;  ///< `user` or `plan` is empty when its file says the same or has a later state
+    Inhalt inhalt;  ///< empty where a file says the same or, but for an angle file, has a later state
   };
 
   /// `user` is what stands safely in the file, or what nobody will miss.
@@ -36,9 +36,12 @@ class Rettung {
   /// Nobody will miss anything.
   void Aufgeben();
 
-  /// Copies in `verzeichnis` that no running program holds and whose files do not say the same, the newest
-  /// first. Where a later saving has overtaken one, its data are put beside the file as "…-alt.dat".
-  static std::vector<Fund> Suchen(const std::filesystem::path& verzeichnis);
+  struct Suche {
+    std::vector<Fund> funde;                      ///< the newest first
+    std::vector<std::filesystem::path> beiseite;  ///< "…-alt.dat": what a later saving has overtaken
+  };
+  /// Copies in `verzeichnis` that no running program holds and whose files do not say the same.
+  static Suche Suchen(const std::filesystem::path& verzeichnis);
   /// Removes a copy that nobody wants, unless another program has taken it up meanwhile.
   static void Verwerfen(const std::filesystem::path& kopie);
 

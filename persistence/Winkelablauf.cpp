@@ -1,7 +1,5 @@
 #include "persistence/Winkelablauf.h"
 
-#include <system_error>
-
 #include "persistence/Dateien.h"
 #include "persistence/Dateigrenzen.h"
 #include "persistence/Pfade.h"
@@ -18,65 +16,9 @@ namespace {
 constexpr const char* TitelLaden = "Winkel-Datei laden";
 constexpr const char* TitelSpeichern = "Winkel-Datei speichern";
 
-Dateiwahl Wahl(const Station& station, const char* titel) {
-  const fs::path datei = PfadAusUtf8(station.winkel.datei);
-  return {titel, "Winkel Dateien (*.ang)", "ang",
-          datei.empty() ? PfadAusUtf8(station.ProgrammVerzeichnis) : datei.parent_path(),
-          PfadAlsUtf8(datei.filename())};
-}
-
-void FehlerSagen(Rueckfragen& rueckfragen, const fs::path& pfad, const std::string& was,
-                 const std::string& grund) {
-  rueckfragen.Fragen(Fehlermeldung("Die Datei " + PfadAlsUtf8(pfad.filename()) + " konnte nicht " + was +
-                                   " werden.\n" + grund));
-}
-
-/// The table is that of the file from now on.
-void DateiNennen(Winkelseite& seite, const fs::path& pfad, bool vorhanden) {
-  seite.datei = PfadAlsUtf8(pfad);
-  seite.herkunft.clear();
-  seite.dateiGelesen = vorhanden;
-  seite.bearbeitet = false;
-}
-
-Fehlergrund TabelleSchreiben(const Station& station, const fs::path& pfad) {
-  const Winkeldaten daten = WinkeldatenDerSeite(station);
-  const std::string fremd = OhneWindows1252(daten.antenne);
-  if (!fremd.empty()) {
-    return "Eine Winkeldatei kann diese Zeichen im Namen der Antenne nicht aufnehmen: " +
-           Anfang(fremd, grenzen::Meldungswort);
-  }
-  return DateiSchreiben(pfad, WinkelSchreiben(daten));
-}
-
-void Schreiben(Station& station, Rueckfragen& rueckfragen, const fs::path& pfad) {
-  if (const Fehlergrund grund = TabelleSchreiben(station, pfad)) {
-    FehlerSagen(rueckfragen, pfad, "gespeichert", *grund);
-  } else {
-    DateiNennen(station.winkel, pfad, true);
-  }
-}
-
-bool Verwerfbar(const Station& station, Rueckfragen& rueckfragen) {
-  const Hinweis frage = Bestaetigung(TitelLaden, "Die Winkeltabelle wurde geändert. Änderungen verwerfen?");
-  return !station.winkel.bearbeitet || rueckfragen.Fragen(frage) == Antwort::Ja;
-}
-
-void Lesen(Station& station, Rueckfragen& rueckfragen, const fs::path& pfad) {
-  const Gelesen datei = DateiLesen(pfad, grenzen::Winkel);
-  if (datei.status == Lesestatus::Fehler) {
-    FehlerSagen(rueckfragen, pfad, "gelesen", datei.grund);
-    return;
-  }
-  WinkelZeigen(station, WinkelLesen(datei.bytes));
-  const std::string fremd = IstUtf8(datei.bytes) ? OhneWindows1252(OhneMarke(datei.bytes)) : "";
-  // Where characters of the file are missing here, saving asks before it replaces the file.
-  DateiNennen(station.winkel, pfad, datei.status == Lesestatus::Gelesen && fremd.empty());
-  if (fremd.empty()) return;
-  rueckfragen.Fragen({TitelLaden, "Die Datei " + PfadAlsUtf8(pfad.filename()) +
-                                      " enthält Zeichen, die eine Winkeldatei nicht aufnehmen kann. Hier "
-                                      "steht statt ihrer ein Fragezeichen: " +
-                                      Anfang(fremd, grenzen::Meldungswort)});
+/// Characters of the file that the program's own files do not have; they are question marks here.
+std::string FremdeZeichen(const std::string& bytes) {
+  return IstUtf8(bytes) ? OhneWindows1252(OhneMarke(bytes)) : "";
 }
 
 }  // namespace
@@ -91,38 +33,129 @@ void WinkelZeigen(Station& station, const GeleseneWinkeldaten& daten) {
   WinkelInSpalte(station);
 }
 
-void WinkelOeffnen(Station& station, Rueckfragen& rueckfragen) {
-  if (!Verwerfbar(station, rueckfragen)) return;
-  if (const auto pfad = rueckfragen.ZumOeffnen(Wahl(station, TitelLaden))) Lesen(station, rueckfragen, *pfad);
+Dateiwahl Winkelablauf::Wahl(const char* titel) const {
+  const fs::path datei = PfadAusUtf8(station_.winkel.datei);
+  return {titel, "Winkel Dateien (*.ang)", "ang",
+          datei.empty() ? PfadAusUtf8(station_.ProgrammVerzeichnis) : datei.parent_path(),
+          PfadAlsUtf8(datei.filename())};
 }
 
-bool WinkelOeffnen(Station& station, Rueckfragen& rueckfragen, const fs::path& pfad) {
+/// Always false, so that a caller can return it.
+bool Winkelablauf::Fehler(const fs::path& pfad, const std::string& was, const std::string& grund) {
+  rueckfragen_.Fragen(Fehlermeldung("Die Datei " + PfadAlsUtf8(pfad.filename()) + " konnte nicht " + was +
+                                    " werden.\n" + grund));
+  return false;
+}
+
+/// The table is that of the file from now on.
+void Winkelablauf::DateiNennen(const fs::path& pfad, bool vorhanden) {
+  Winkelseite& seite = station_.winkel;
+  seite.datei = PfadAlsUtf8(pfad);
+  seite.herkunft.clear();
+  seite.dateiGelesen = vorhanden;
+  seite.bearbeitet = false;
+}
+
+// ---------------------------------------------------------------------------------------------- reading
+
+bool Winkelablauf::Verwerfbar() {
+  const Hinweis frage = Bestaetigung(TitelLaden, "Die Winkeltabelle wurde geändert. Änderungen verwerfen?");
+  return !station_.winkel.bearbeitet || rueckfragen_.Fragen(frage) == Antwort::Ja;
+}
+
+void Winkelablauf::Lesen(const fs::path& pfad) {
+  Dateistand stand(grenzen::Winkel);
+  const Gelesen datei = stand.Lesen(pfad);
+  if (datei.status == Lesestatus::Fehler) {
+    Fehler(pfad, "gelesen", datei.grund);
+    return;
+  }
+  stand_ = std::move(stand);
+  const GeleseneWinkeldaten daten = WinkelLesen(datei.bytes);
+  WinkelZeigen(station_, daten);
+  // Where the table is not all that the file holds, saving asks before it replaces the file.
+  DateiNennen(pfad, datei.status == Lesestatus::Gelesen && daten.ganz);
+  if (daten.ganz) return;
+  const std::string fremd = FremdeZeichen(datei.bytes);
+  rueckfragen_.Fragen(
+      {TitelLaden, "Die Datei " + PfadAlsUtf8(pfad.filename()) +
+                       (fremd.empty() ? " enthält noch anderes als eine Winkeltabelle. Hier steht nur, was "
+                                        "davon in die Tabelle paßt."
+                                      : " enthält Zeichen, die eine Winkeldatei nicht aufnehmen kann. Hier "
+                                        "steht statt ihrer ein Fragezeichen: " +
+                                            Anfang(fremd, grenzen::Meldungswort))});
+}
+
+void Winkelablauf::Oeffnen() {
+  if (!Verwerfbar()) return;
+  if (const auto pfad = rueckfragen_.ZumOeffnen(Wahl(TitelLaden))) Lesen(*pfad);
+}
+
+bool Winkelablauf::Oeffnen(const fs::path& pfad) {
   if (const Fehlergrund grund =
           WarumOhneInhalt(PfadAlsUtf8(pfad.filename()), DateiLesen(pfad, grenzen::Winkel))) {
-    rueckfragen.Fragen(Fehlermeldung(*grund));
+    rueckfragen_.Fragen(Fehlermeldung(*grund));
     return false;
   }
-  if (!Verwerfbar(station, rueckfragen)) return false;
-  Lesen(station, rueckfragen, pfad);
+  if (!Verwerfbar()) return false;
+  Lesen(pfad);
   return true;
 }
 
-void WinkelSpeichern(Station& station, Rueckfragen& rueckfragen) {
-  const fs::path pfad = PfadAusUtf8(station.winkel.datei);
+// ----------------------------------------------------------------------------------------------- saving
+
+void Winkelablauf::Speichern() {
+  const fs::path pfad = PfadAusUtf8(station_.winkel.datei);
   if (pfad.empty()) {
-    WinkelSpeichernUnter(station, rueckfragen);
-    return;
+    SpeichernUnter();
+  } else {
+    Schreiben(pfad, false);
   }
-  std::error_code egal;
-  const Hinweis frage = Bestaetigung(TitelSpeichern, "Die Datei " + PfadAlsUtf8(pfad.filename()) +
-                                                         " gibt es bereits. Soll sie überschrieben werden?");
-  const bool fremd = !station.winkel.dateiGelesen && fs::exists(pfad, egal);
-  if (!fremd || rueckfragen.Fragen(frage) == Antwort::Ja) Schreiben(station, rueckfragen, pfad);
 }
 
-void WinkelSpeichernUnter(Station& station, Rueckfragen& rueckfragen) {
-  const auto pfad = rueckfragen.ZumSpeichern(Wahl(station, TitelSpeichern));
-  if (pfad) Schreiben(station, rueckfragen, *pfad);
+void Winkelablauf::SpeichernUnter() {
+  if (const auto pfad = rueckfragen_.ZumSpeichern(Wahl(TitelSpeichern))) Schreiben(*pfad, true);
+}
+
+/// `gefragt`: the dialog has asked whether the file may be replaced.
+void Winkelablauf::Schreiben(const fs::path& pfad, bool gefragt) {
+  const Winkeldaten daten = WinkeldatenDerSeite(station_);
+  const std::string fremd = OhneWindows1252(daten.antenne);
+  if (!fremd.empty()) {
+    Fehler(pfad, "gespeichert",
+           "Eine Winkeldatei kann diese Zeichen im Namen der Antenne nicht aufnehmen: " +
+               Anfang(fremd, grenzen::Meldungswort));
+  } else if (Ersetzen(pfad, WinkelSchreiben(daten), gefragt)) {
+    DateiNennen(pfad, true);
+  }
+}
+
+/// False: the table stands nowhere, and the user knows.
+bool Winkelablauf::Ersetzen(const fs::path& pfad, const std::string& bytes, bool gefragt) {
+  const bool andere = gefragt && pfad != PfadAusUtf8(station_.winkel.datei);
+  const bool fremd = !andere && stand_.Fremd(pfad, bytes);
+  if (!andere && !DarfErsetzen(pfad, bytes, fremd, gefragt)) return false;
+  const auto [ausgang, grund] = stand_.Schreiben(pfad, bytes, andere || fremd);
+  // Somebody has written it in this moment.
+  if (ausgang == Dateistand::Ausgang::FremdGeaendert) return Ersetzen(pfad, bytes, gefragt);
+  return ausgang == Dateistand::Ausgang::Geschrieben || Fehler(pfad, "gespeichert", grund);
+}
+
+bool Winkelablauf::DarfErsetzen(const fs::path& pfad, const std::string& bytes, bool fremd, bool gefragt) {
+  const Gelesen jetzt = DateiLesen(pfad, grenzen::Winkel);
+  if (jetzt.status == Lesestatus::Fehlt || jetzt.bytes == bytes) return true;
+  const bool behalten = fremd || !WinkelLesen(jetzt.bytes).ganz;
+  const bool gelesen = station_.winkel.dateiGelesen && stand_.Kennt(pfad);
+  const std::string warum = jetzt.status == Lesestatus::Fehler ? NichtLesbar
+                            : gelesen                          ? VonAnderenGeaendert
+                                                               : "gibt es bereits.";
+  const std::string frage = behalten ? Ueberschreibfrage(pfad, warum)
+                                     : "Die Datei " + PfadAlsUtf8(pfad.filename()) +
+                                           " gibt es bereits. Soll sie überschrieben werden?";
+  const bool fragen = fremd || (!gefragt && !station_.winkel.dateiGelesen);
+  if (fragen && rueckfragen_.Fragen(Bestaetigung(TitelSpeichern, frage)) != Antwort::Ja) return false;
+  const Fehlergrund grund = behalten ? DateiKopieren(pfad, FreierAltname(pfad)) : std::nullopt;
+  return !grund || Fehler(pfad, "gespeichert", *grund);
 }
 
 }  // namespace vesk

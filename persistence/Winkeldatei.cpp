@@ -44,6 +44,22 @@ void ZeileSchreiben(std::string& text, std::string wert) {
   text += '"' + wert + "\"\r\n";
 }
 
+/// What is left of a file without the signs that only set its values apart.
+std::string OhneTrennzeichen(std::string text) {
+  std::erase_if(text,
+                [](char z) { return std::string_view(" \t\r\n,\"[]").find(z) != std::string_view::npos; });
+  return text;
+}
+
+/// Whether a file of this table says all that `text` says; `bytes` is what `text` was before it got the
+/// character set.
+bool StehtWiederDrin(std::string_view bytes, const std::string& text, const GeleseneWinkeldaten& daten) {
+  const std::string neu = WinkelSchreiben(
+      {daten.antenne.value_or(""), daten.gewinn.value_or(""), daten.frequenz.value_or(""), daten.daempfung});
+  const bool jedesZeichen = text == bytes || bytes.ends_with(NachUtf8(text));
+  return jedesZeichen && OhneTrennzeichen(text) == OhneTrennzeichen(neu);
+}
+
 }  // namespace
 
 GeleseneWinkeldaten WinkelLesen(std::string_view bytes) {
@@ -60,6 +76,7 @@ GeleseneWinkeldaten WinkelLesen(std::string_view bytes) {
   for (std::string& wert : daten.daempfung) {
     if (naechster != werte.end()) wert = NachUtf8(*naechster++);
   }
+  daten.ganz = StehtWiederDrin(bytes, text, daten);
   return daten;
 }
 

@@ -13,6 +13,7 @@ struct GeleseneWinkeldaten {
   std::optional<std::string> gewinn;
   std::optional<std::string> frequenz;
   std::array<std::string, AnzahlSektoren> daempfung;
+  bool ganz = true;  ///< all that stands in the file; writing it again loses nothing
 };
 
 /// One value per line, quoted or not; several quoted values may share a line. A comma outside quotes is part

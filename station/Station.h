@@ -205,6 +205,8 @@ struct Station {
 
   bool UserGeaendert = false;
   bool neuesRufzeichen = false;  ///< the data are a callsign's that has no file yet; the file is another's
+  bool ohneDatei = false;        ///< there is no file of this name yet
+  bool ohneRettung = false;      ///< a crash would lose what is not saved: no copy of it can be kept
   bool titelGesetzt = false;
   std::string Fusszeile;               ///< user's text before the program's own footer of the printouts
   std::string UserDatei = "user.dat";  ///< bare name

@@ -53,6 +53,8 @@ Station Wiederhergestellt(const Station& jetzt, const Station& ziel) {
   s.fenster = jetzt.fenster;
   s.papiere = jetzt.papiere;
   s.schaubilder = jetzt.schaubilder;
+  s.ohneDatei = jetzt.ohneDatei;
+  s.ohneRettung = jetzt.ohneRettung;
   s.titelGesetzt = jetzt.titelGesetzt;
   s.UserDatei = jetzt.UserDatei;
   s.UserVerzeichnis = jetzt.UserVerzeichnis;

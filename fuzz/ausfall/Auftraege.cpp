@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QSettings>
 
 #include "app/Verzeichnisse.h"
@@ -12,6 +13,11 @@ using namespace Qt::StringLiterals;
 namespace vesk::ausfall {
 
 namespace {
+
+/// A plan with a picture beside it.
+constexpr const char* Fremdplan =
+    R"({"format":"vesk-lageplan","version":1,"bezugsname":"fremd","hintergrund":)"
+    R"({"datei":"karte.png","bildpunkte":[[0,80],[100,80]],"abstand":100,"ort":[0,0]}})";
 
 const QString AndererPlan = u"anderswo/andere.lageplan"_s;
 
@@ -43,6 +49,13 @@ void AlteFassung(const QString& verzeichnis) {
   const QByteArray alt = Inhalt(verzeichnis + u"/user.dat"_s).replace("\"251\"", "\"240\"");
   Anlegen(verzeichnis + u"/alt.dat"_s, alt);
   Anlegen(verzeichnis + u"/anderswo/fremd.dat"_s, alt);
+}
+
+void Karte(const QString& verzeichnis) {
+  Anderswo(verzeichnis);
+  QImage karte(100, 80, QImage::Format_RGB32);
+  karte.fill(Qt::white);
+  if (!karte.save(verzeichnis + u"/anderswo/karte.png"_s)) std::abort();
 }
 
 /// The store of the user, in the directory, with a value in it.
@@ -122,7 +135,10 @@ std::vector<Auftrag> Auftraege() {
        {u"Winkel.ang"_s},
        [](const QString& v) { Anlegen(v + u"/Winkel.ang"_s, "[Turm]\r\n12\r\n144\r\n0\r\n1\r\n"); },
        Befehlen<WinkelSpeichern>,
-       Winkel},
+       Winkel,
+       true,
+       false,
+       true},
       {"Winkel speichern unter", {ang}, Anderswo, Nach<WinkelSpeichernUnter>(ang), Winkel},
       {"Katalog", {u"Kabel.txt"_s}, Katalog, Oeffnen(u"anderswo/Kabel.txt"_s), Name, true, false, true},
       {"Alte Fassung laden",
@@ -138,6 +154,52 @@ std::vector<Auftrag> Auftraege() {
        AlteFassung,
        Oeffnen(u"anderswo/fremd.dat"_s),
        Name},
+      {"Datei mit Lageplan von anderswo",
+       {user, plan, u"fremd.dat"_s, u"fremd.lageplan"_s},
+       [](const QString& v) {
+         AlteFassung(v);
+         Karte(v);
+         Anlegen(v + u"/anderswo/fremd.lageplan"_s, Fremdplan);
+       },
+       Oeffnen(u"anderswo/fremd.dat"_s),
+       Name,
+       true,
+       false,
+       false,
+       [](const Station& s) { return s.lageplan.bezugsname; }},
+      {"Winkel laden",
+       {ang},
+       [=](const QString& v) {
+         Anderswo(v);
+         Anlegen(v + u'/' + ang, "[Turm]\r\n12\r\n144\r\n0\r\n1\r\n");
+       },
+       Nach<WinkelLaden>(ang),
+       Name,
+       true,
+       false,
+       false,
+       [](const Station& s) { return s.winkel.antenne; }},
+      {"GeoJSON",
+       {plan},
+       [](const QString& v) {
+         Anderswo(v);
+         Anlegen(v + u"/anderswo/haus.geojson"_s, Haus);
+       },
+       Nach<GeojsonEinlesen>(u"anderswo/haus.geojson"_s),
+       Name,
+       true,
+       false,
+       false,
+       [](const Station& s) { return std::to_string(s.lageplan.objekte.size()); }},
+      {"Hintergrund",
+       {plan},
+       Karte,
+       Nach<HintergrundWaehlen>(u"anderswo/karte.png"_s),
+       Name,
+       true,
+       false,
+       false,
+       [](const Station& s) { return s.lageplan.hintergrund ? s.lageplan.hintergrund->datei : ""; }},
       {"Rettungskopie",
        {user},
        Nichts,

@@ -19,9 +19,14 @@ struct Auftrag {
   bool meldet = true;      ///< a failure is told
   bool start = false;      ///< what writes is the start itself; nothing is typed
   bool altBleibt = false;  ///< what stood in the last file remains under another name
+  /// What it brings into the windows; where that is something else because of a failure, it is told.
+  std::string (*zeigt)(const Station& jetzt) = nullptr;
 };
 
 inline constexpr const char* Getippt = "Anna";
+/// A file of outlines.
+inline constexpr const char* Haus =
+    R"({"type":"Polygon","coordinates":[[[7,51],[7.0005,51],[7.0005,51.0005],[7,51]]]})";
 std::vector<Auftrag> Auftraege();
 
 }  // namespace vesk::ausfall

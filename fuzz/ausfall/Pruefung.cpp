@@ -26,13 +26,16 @@ constexpr Ruf Rufe[] = {
 
 using Inhalte = std::map<QString, QByteArray>;
 
-/// All files of a directory, by their path in it.
+/// All files of a directory, by their path in it. Some name it; it is another one each time.
 Inhalte Bestand(const QString& verzeichnis) {
   Inhalte inhalte;
   QDirIterator weg(verzeichnis, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
   while (weg.hasNext()) {
     QFile datei(weg.next());
-    if (datei.open(QFile::ReadOnly)) inhalte[datei.fileName().mid(verzeichnis.size() + 1)] = datei.readAll();
+    if (datei.open(QFile::ReadOnly)) {
+      inhalte[datei.fileName().mid(verzeichnis.size() + 1)] =
+          datei.readAll().replace(verzeichnis.toUtf8(), "ORDNER");
+    }
   }
   return inhalte;
 }
@@ -56,6 +59,7 @@ struct Ausgang {
   Inhalte vorher;
   Inhalte nachher;
   std::vector<std::string> boxen;
+  std::string gezeigt;   ///< what it has brought into the windows
   bool bewahrt = false;  ///< the program started anew has what was typed
 };
 
@@ -77,6 +81,7 @@ Ausgang Ausfuehren(const Auftrag& auftrag, const Ruf& ruf, int nummer) {
     ausgang.erreicht = AusfallGezaehlt() >= nummer;
     AusfallStellen("", 0, 0, "");
     ausgang.boxen = lauf.boxen.texte;
+    if (auftrag.zeigt != nullptr) ausgang.gezeigt = auftrag.zeigt(lauf.station);
     ausgang.nachher = Bestand(verzeichnis);
     lauf.programm.RettungSichern();  // as it does by itself every few seconds
   }
@@ -126,7 +131,8 @@ std::string Mangel(const Auftrag& auftrag, const Ausgang& gut, const Ausgang& je
   const QByteArray alt = Datei(jetzt.vorher, auftrag.ziele.back());
   if (auftrag.altBleibt && !Enthaelt(jetzt.nachher, alt)) return "die alte Fassung ist verloren";
   if (!alleNeu && !bewahrt) return "was getippt war, ist verloren";
-  if (!alleNeu && auftrag.meldet && jetzt.boxen == gut.boxen) return "kein Wort davon";
+  const bool meldenswert = (!alleNeu && auftrag.meldet) || jetzt.gezeigt != gut.gezeigt;
+  if (meldenswert && jetzt.boxen == gut.boxen) return "kein Wort davon";
   for (const auto& [name, bytes] : jetzt.nachher) {
     if (name.endsWith(u".neu"_s)) return name.toStdString() + " ist liegengeblieben";
   }

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Watches the system calls of whole runs: the windows, and the two commands of the terminal. Fails on network,
-# on child processes, and on files outside of the program directory, the chosen files and the user's store;
-# what belongs to the system may be read. systemrufe.sh PROGRAM RUNDGANG DATA
+# Watches the system calls of whole runs: the windows, and the two commands of the terminal. Fails on network
+# but for the print server of this machine, on child processes, and on files outside of the program directory,
+# the chosen files and the user's store; what belongs to the system may be read.
+# systemrufe.sh PROGRAM RUNDGANG DATA
 set -euo pipefail
 programm=$1 rundgang=$2 daten=$3
 strace -o /dev/null true || { echo "strace darf hier nicht zusehen." && exit 77; }
@@ -49,7 +50,9 @@ awk -v ordner="$ordner" -v daten="$daten" -v bau="$(dirname "$programm")" '
     if (!match($0, /^[a-z0-9_]+\(/)) next
     ruf = substr($0, 1, RLENGTH - 1)
     ++gesehen[ruf]
-    if (ruf ~ /^socket/ && $0 !~ /AF_UNIX/) anstoss("Netz")
+    if (ruf ~ /^socket/ && $0 !~ /AF_UNIX|AF_INET6?, SOCK_STREAM/) anstoss("Netz")
+    # Who prints asks the print server of this machine.
+    if (ruf ~ /^(connect|bind|send)/ && /AF_INET/ && !(/^connect/ && /port=htons\(631\)/ && /"(127\.0\.0\.1|::1)"/)) anstoss("Netz")
     lauf = FILENAME
     sub(/\.[0-9]+$/, "", lauf)
     if (ruf ~ /^execve/ && ausgefuehrt[lauf]++) anstoss("Prozeß")

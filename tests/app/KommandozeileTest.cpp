@@ -78,6 +78,9 @@ TEST(Verzeichnisse, MitgelieferteKommenEinmal) {
   MitgelieferteKopieren(v, speicher);
   EXPECT_EQ(QDir(v.programm).entryList(QDir::Files), QStringList(u"TIPOFDAY.TXT"_s))
       << "gelöscht bleibt gelöscht";
+  ASSERT_TRUE(QFile::remove(ordner.filePath(u"TIPOFDAY.TXT"_s)));
+  MitgelieferteKopieren(v, speicher);
+  EXPECT_EQ(QDir(v.programm).entryList(QDir::Files | QDir::Hidden).size(), 3) << "and nothing beside them";
 }
 
 TEST(Verzeichnisse, WoNichtsZuSchreibenIst) {
@@ -88,7 +91,11 @@ TEST(Verzeichnisse, WoNichtsZuSchreibenIst) {
   EXPECT_EQ(MitgelieferteKopieren({ordner.filePath(u"datei/dort"_s), daten}, speicher),
             "Ein Teil des Pfades ist kein Verzeichnis.");
   EXPECT_TRUE(speicher.werte.isEmpty()) << "another time";
-  EXPECT_EQ(MitgelieferteKopieren({ordner.filePath(u"neu/dort"_s), daten}, speicher), "");
+  const Verzeichnisse neu{ordner.filePath(u"neu/dort"_s), daten};
+  EXPECT_EQ(MitgelieferteKopieren(neu, speicher), "");
+  // All is there already, but nothing can be added. Whoever may do anything is stopped by a name.
+  QDir(neu.programm).mkpath(u".vesk.neu"_s);
+  EXPECT_NE(MitgelieferteKopieren(neu, speicher), "");
 }
 
 TEST(Verzeichnisse, NamenDieKeinTextSind) {

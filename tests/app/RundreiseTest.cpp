@@ -75,6 +75,14 @@ TEST_F(Rundreise, WoNichtsZuSchreibenIst) {
   const QString daten = QStringLiteral(VESK_DATEN);
   Programm programm(station, buehne.plattform, {filePath(u"fehlt"_s), daten, "Die Berechtigung fehlt."});
   programm.Starten();
+  programm.RettungSichern();
+  EXPECT_TRUE(Lauf::Text(u"lblGespeichert"_s).endsWith(u": noch keine Datei"_s)) << "nobody will miss it";
+  programm.Tun([](Station& s, const Kataloge&) {
+    s.UserGeaendert = s.neuesRufzeichen = true;
+    return Meldungen{};
+  });
+  programm.RettungSichern();
+  EXPECT_TRUE(Lauf::Text(u"lblGespeichert"_s).endsWith(u"keine Kopie für den Fall eines Absturzes"_s));
   programm.Befehlen(Befehl::OptionenZeigen);
   EXPECT_GT(Lauf::Ding<QListWidget>(u"LstAntennen"_s, u"frmOptions"_s).count(), 2) << "the shipped ones";
 }

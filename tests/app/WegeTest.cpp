@@ -46,6 +46,8 @@ TEST_F(Wege, DreiBaenderMitDerTastatur) {
   Taste(Qt::Key_F5);
   Strg(Qt::Key_S);
   EXPECT_FALSE(station.UserGeaendert);
+  programm.Befehlen(Befehl::BenutzerZeigen);
+  Aktivieren(u"frmUser"_s);
   Strg(Qt::Key_P);
   EXPECT_TRUE(Sichtbar(u"frmVorschau"_s));
 }
@@ -86,7 +88,11 @@ TEST_F(Wege, FallengelasseneDateien) {
   QTemporaryDir anderswo;
   QFile::copy(QStringLiteral(VESK_DATEN) + u"/Kabel.txt"_s, anderswo.filePath(u"KABEL.TXT"_s));
   buehne.boxen.Erwarten("Katalog übernehmen", "Kabel-alt.txt", Antwort::Ja);
+  const QRect lage(30, 70, 760, 520);
+  Fenster(u"frmOptions"_s).setGeometry(lage);
   Fallenlassen(anderswo.filePath(u"KABEL.TXT"_s), feld);
+  EXPECT_EQ(Fenster(u"frmOptions"_s).geometry(), lage);
+  EXPECT_EQ(Ding<QTabWidget>(u"SSTab1"_s, u"frmOptions"_s).currentIndex(), 3);
   EXPECT_TRUE(QFile::exists(filePath(u"Kabel-alt.txt"_s)) && QFileInfo(kabel).size() > 0);
   buehne.boxen.Erwarten("Vesk - Fehlermeldung", "leer", Antwort::OK);
   Fallenlassen(Datei(u"leer.dat"_s, ""), feld);
@@ -102,9 +108,12 @@ TEST_F(Wege, FallengelasseneDateien) {
 
 TEST_F(Wege, ZuletztBenutzteDateien) {
   const QString andere = filePath(u"andere.dat"_s);
-  station.UserGeaendert = true;
+  EXPECT_EQ(Text(u"lblGespeichert"_s), u"Änderungen: noch keine Datei");
+  station.Zellen[0] = "12 m";
   Menue(u"mnuDatenblatt"_s);
+  EXPECT_EQ(Text(u"lblGespeichert"_s), u"Änderungen: nicht gespeichert");
   Menue(u"mnuDateiSpeichern"_s);
+  EXPECT_EQ(Text(u"lblGespeichert"_s), u"Änderungen: gespeichert");
   QFile::copy(filePath(u"user.dat"_s), andere);
   buehne.dialoge.Antworten(andere);
   Menue(u"mnuDateiLaden"_s);

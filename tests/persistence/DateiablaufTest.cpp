@@ -29,13 +29,16 @@ TEST_F(DateiablaufTest, NurWasSichAendertWirdGeschrieben) {
 }
 
 TEST_F(DateiablaufTest, AlteVersionenWerdenUmgewandelt) {
+  std::string frueher;
   for (const std::string version : {"240", "210"}) {
     std::string alt = MusterMit("eins");
     Anlegen(user, alt.replace(alt.find("251"), 3, version));
     const Lauf lauf(ordner.pfad, ("Daten aus Programmversion " + version).c_str());
     EXPECT_EQ(Inhalt(ordner / "User.bak"), alt);
     EXPECT_EQ(Inhalt(user), UserDateiSchreiben(lauf.station));
-    EXPECT_EQ(ordner.Anzahl(), 2) << "no further copy";
+    EXPECT_EQ(Inhalt(ordner / "User-alt.bak"), frueher) << "of the conversion before";
+    EXPECT_EQ(ordner.Anzahl(), frueher.empty() ? 2 : 3) << "no further copy";
+    frueher = alt;
   }
 }
 

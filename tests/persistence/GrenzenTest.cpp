@@ -47,7 +47,7 @@ TEST(Grenzen, WasUebrigeDateienHalten) {
   Antwortliste fragen;
   Anlegen(ordner / "x.ang", std::string(grenzen::Winkel + 1, '1'));
   fragen.Fehler("x.ang konnte nicht gelesen werden.\nSie ist größer als 512 KB");
-  EXPECT_FALSE(WinkelOeffnen(s, fragen, ordner / "x.ang"));
+  EXPECT_FALSE(Winkelablauf(s, fragen).Oeffnen(ordner / "x.ang"));
 
   Meldungen meldungen;
   Anlegen(ordner / "Kabel.txt", std::string(grenzen::Kabel + 1, 'x'));

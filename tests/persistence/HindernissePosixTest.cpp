@@ -120,7 +120,9 @@ TEST_F(HindernisseTest, RechteDerDatei) {
       Anlegen(user, MusterMit("später"));
     }
     fs::last_write_time(Kopie(ordner.pfad), fs::last_write_time(user) - std::chrono::minutes(1));
-    Lauf(ordner.pfad).ablauf.RettungAnbieten();
+    Lauf lauf(ordner.pfad);
+    lauf.fragen.Erwarten("Hinweis", "user-alt.dat");
+    lauf.ablauf.RettungAnbieten();
     EXPECT_EQ(fs::status(ordner / "user-alt.dat").permissions(), rechte);
     fs::remove(ordner / "user-alt.dat");
   }

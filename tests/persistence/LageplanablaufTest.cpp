@@ -193,6 +193,7 @@ TEST_F(LageplanablaufTest, DieKopieFuerEinenAbsturz) {
   Anlegen(plan, PlanMit("später"));
   fs::last_write_time(plan, fs::last_write_time(plan) + 1min);
   Lauf lauf(ordner.pfad);
+  lauf.fragen.Erwarten("Hinweis", "user-alt2.lageplan");
   lauf.fragen.Erwarten("Vesk", "ungesicherte Änderungen an user.dat.\nSollen", Antwort::Ja);
   lauf.ablauf.RettungAnbieten();
   EXPECT_EQ(lauf.station.benutzer.Name + Stand(lauf, plan), "dreispäter|später");

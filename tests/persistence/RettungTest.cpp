@@ -69,6 +69,8 @@ TEST_F(RettungTest, EineNeuereDateiGilt) {
     Anlegen(anderswo / "dl1.dat", MusterMit(gespeichert));
     fs::last_write_time(Kopien().at(0), fs::last_write_time(anderswo / "dl1.dat") - 1min);
     Lauf lauf(ordner.pfad);
+    const std::string daneben = PfadZumZeigen(anderswo / "dl1-alt.dat");
+    if (gespeichert == "später") lauf.fragen.Erwarten("Hinweis", "Es bleibt daneben erhalten:\n" + daneben);
     Anbieten(lauf, {});
     EXPECT_TRUE(Kopien().empty());
     EXPECT_EQ(fs::exists(anderswo / "dl1-alt.dat"), gespeichert == "später");
@@ -129,9 +131,11 @@ TEST_F(RettungTest, DieAlteKopieGehtErstNachDerNeuen) {
   lauf.station.ProgrammVerzeichnis = PfadAlsUtf8(ordner / "fehlt");
   lauf.ablauf.RettungSichern();
   EXPECT_EQ(Kopien(), std::vector{alte});
+  EXPECT_TRUE(lauf.station.ohneRettung);
   lauf.station.ProgrammVerzeichnis = PfadAlsUtf8(ordner.pfad);
   lauf.ablauf.RettungSichern();
   EXPECT_TRUE(Kopien().size() == 1 && Kopien()[0] != alte);
+  EXPECT_FALSE(lauf.station.ohneRettung);
 }
 
 TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
@@ -148,6 +152,16 @@ TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
     lauf.fragen.Erwarten("Vesk", "Die Winkeltabelle wurde geändert und nicht gespeichert.", Antwort::Nein);
     EXPECT_FALSE(lauf.ablauf.Beenden());
   }
+  {
+    std::ofstream(anderswo / "kopie") << Inhalt(Kopien().at(0));
+    Lauf lauf(ordner.pfad);
+    Winkeldaten quad{"Quad", "", "", {}};
+    quad.daempfung[3] = "7.5";
+    Anlegen(datei, WinkelSchreiben(quad));
+    Anbieten(lauf, {});
+    EXPECT_TRUE(Kopien().empty()) << "the table stands in its file";
+    fs::copy_file(anderswo / "kopie", ordner / ".user.dat.rettung");
+  }
   Anlegen(datei, "[andere]");
   Lauf lauf(ordner.pfad);
   Anbieten(lauf, {{"Es gibt eine nicht gespeicherte Winkeltabelle.\nSoll sie", Antwort::Ja}});
@@ -155,7 +169,8 @@ TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
   EXPECT_EQ(s.winkel.antenne + s.Datenblattspalten[0].Winkel[3] + s.benutzer.Name, "Quad7.5gesichert");
   EXPECT_FALSE(s.UserGeaendert);
   lauf.fragen.Erwarten("Winkel-Datei speichern", "h-b.ang gibt es bereits.", Antwort::Ja);
-  WinkelSpeichern(s, lauf.fragen);
+  Winkelablauf(s, lauf.fragen).Speichern();
+  EXPECT_EQ(Inhalt(ordner / "h-b-alt.ang"), "[andere]");
   lauf.ablauf.RettungSichern();
   EXPECT_TRUE(Kopien().empty());
   WinkelGetippt(s, lauf.kataloge, Winkelfeld::Antenne, "Beam");

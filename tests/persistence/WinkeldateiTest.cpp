@@ -12,6 +12,8 @@
 namespace vesk {
 namespace {
 
+namespace fs = std::filesystem;
+
 const Winkeldaten Beispieldaten{
     "Yagi \"Süd\" [alt]",
     "15.3",
@@ -35,6 +37,7 @@ TEST(Winkeldatei, VerstehtVonHandGeschriebenes) {
         daten.antenne.value_or("-") + '|' + daten.gewinn.value_or("-") + '|' + daten.frequenz.value_or("-");
     for (const std::string& wert : daten.daempfung) ist += '|' + wert;
     EXPECT_EQ(ist, zeile["gelesen"]) << zeile.text;
+    EXPECT_EQ(daten.ganz, zeile["ganz"] == "ja") << zeile.text;
   }
 }
 
@@ -80,51 +83,103 @@ struct WinkelablaufTest : testing::Test {
     s.winkel.bearbeitet = true;
     s.werte.QRGText = "145";
   }
+  void Laden(const fs::path& pfad) { fragen.Datei(pfad), ablauf.Oeffnen(); }
+  /// Saving asks this.
+  void Speichern(const std::string& frage, Antwort antwort) {
+    fragen.Erwarten("Winkel-Datei speichern", frage, antwort);
+    ablauf.Speichern();
+    fragen.AllesGezeigt();
+  }
   Ordner ordner;
   Station s;
   Antwortliste fragen;
+  Winkelablauf ablauf{s, fragen};
 };
 
 TEST_F(WinkelablaufTest, EineDateiErsetztNichtsUngefragt) {
   Anlegen(ordner / "h-b.ang", "[B]\n\n\n0\n3\n");
   const char* frage = "Die Winkeltabelle wurde geändert. Änderungen verwerfen?";
   fragen.Erwarten("Winkel-Datei laden", frage, Antwort::Nein);
-  WinkelOeffnen(s, fragen);
+  ablauf.Oeffnen();
   fragen.Erwarten("Winkel-Datei laden", frage, Antwort::Ja);
   fragen.Datei(std::nullopt);
-  WinkelOeffnen(s, fragen);
+  ablauf.Oeffnen();
   EXPECT_EQ(s.winkel.antenne, "getippt");
   fragen.Erwarten("Winkel-Datei laden", frage, Antwort::Ja);
   fragen.Datei(ordner / "h-b.ang");
-  WinkelOeffnen(s, fragen);
+  ablauf.Oeffnen();
   EXPECT_EQ(s.winkel.antenne, "B");
   EXPECT_EQ(s.winkel.frequenz, "145") << "none in the file: that of the main window";
   EXPECT_EQ(s.Datenblattspalten[0].Winkel[1], "3");
   s.winkel.gewinn = "12";
-  WinkelSpeichern(s, fragen);
+  ablauf.Speichern();
   EXPECT_EQ(WinkelLesen(Inhalt(ordner / "h-b.ang")).gewinn, "12");
 }
 
 TEST_F(WinkelablaufTest, SpeichernFragtWoEtwasVerlorenGinge) {
   Anlegen(ordner / "Winkel.ang", "[fremd]");
-  const char* frage = "Die Datei Winkel.ang gibt es bereits. Soll sie überschrieben werden?";
-  fragen.Erwarten("Winkel-Datei speichern", frage, Antwort::Nein);
-  WinkelSpeichern(s, fragen);
+  const std::string frage = "Die Datei Winkel.ang gibt es bereits.\nSoll sie mit den Daten aus diesem";
+  Speichern(frage, Antwort::Nein);
   EXPECT_EQ(Inhalt(ordner / "Winkel.ang"), "[fremd]");
   fragen.Datei(ordner / "fehlt/x.ang");
   fragen.Fehler("Die Datei x.ang konnte nicht gespeichert werden.\nDas Verzeichnis gibt es nicht.");
-  WinkelSpeichernUnter(s, fragen);
+  ablauf.SpeichernUnter();
   EXPECT_EQ(s.winkel.datei, PfadAlsUtf8(ordner / "Winkel.ang")) << "a failure keeps the name";
   EXPECT_TRUE(s.winkel.bearbeitet);
-  fragen.Erwarten("Winkel-Datei speichern", frage, Antwort::Ja);
-  WinkelSpeichern(s, fragen);
+  Speichern(frage, Antwort::Ja);
   EXPECT_FALSE(s.winkel.bearbeitet);
-  WinkelSpeichern(s, fragen);  // its own file by now
+  EXPECT_EQ(Inhalt(ordner / "Winkel-alt.ang"), "[fremd]");
+  ablauf.Speichern();  // its own file by now
+  s.winkel.antenne = "andere";
+  s.winkel.dateiGelesen = false;
+  Speichern("Die Datei Winkel.ang gibt es bereits. Soll sie überschrieben werden?", Antwort::Ja);
+  EXPECT_EQ(ordner.Anzahl(), 2) << "what the program itself has written is no foreign table";
 
   s.winkel.datei.clear();
   fragen.Datei(ordner / "neu.ang");
-  WinkelSpeichern(s, fragen);
-  EXPECT_EQ(WinkelLesen(Inhalt(ordner / "neu.ang")).antenne, "getippt");
+  ablauf.Speichern();
+  EXPECT_EQ(WinkelLesen(Inhalt(ordner / "neu.ang")).antenne, "andere");
+}
+
+TEST_F(WinkelablaufTest, WasEinAnderesProgrammGeschriebenHat) {
+  const fs::path datei = ordner / "a.ang";
+  const std::string frage = "a.ang wurde inzwischen von einem anderen Programm geändert.";
+  Anlegen(datei, "[A]\n1\n");
+  s.winkel.bearbeitet = false;
+  Laden(datei);
+  Anlegen(datei, "[B]\n2\n");
+  Speichern(frage, Antwort::Nein);
+  EXPECT_EQ(Inhalt(datei), "[B]\n2\n");
+  fragen.Erwarten("Winkel-Datei speichern", frage, Antwort::Ja);
+  fragen.Datei(datei);  // where it already is
+  ablauf.SpeichernUnter();
+  EXPECT_EQ(Inhalt(ordner / "a-alt.ang") + *WinkelLesen(Inhalt(datei)).antenne, "[B]\n2\nA");
+
+  fs::remove(datei);
+  ablauf.Speichern();
+  Anlegen(ordner / "b.ang", "[B]\n2\n");
+  s.winkel.datei = PfadAlsUtf8(ordner / "b.ang");  // as after taking back
+  Speichern("b.ang gibt es bereits.", Antwort::Nein);
+  fs::remove(datei);
+  fs::create_directory(datei);
+  s.winkel.datei = PfadAlsUtf8(datei);
+  fragen.Erwarten("Winkel-Datei speichern", "a.ang konnte nicht gelesen werden.\nSoll sie", Antwort::Ja);
+  fragen.Fehler("a.ang konnte nicht gespeichert werden.\n");
+  ablauf.Speichern();
+}
+
+TEST_F(WinkelablaufTest, WasInKeineTabellePasst) {
+  const std::string bytes = "[A]\n1\n2\n0\n1\n2\n3\n4\n5\n6\n7\n8\ngemessen 1987\n";
+  Anlegen(ordner / "a.ang", bytes);
+  s.winkel.bearbeitet = false;
+  fragen.Erwarten("Winkel-Datei laden", "a.ang enthält noch anderes als eine Winkeltabelle.");
+  Laden(ordner / "a.ang");
+  fragen.Datei(ordner / "a.ang");
+  ablauf.SpeichernUnter();
+  EXPECT_EQ(Inhalt(ordner / "a-alt.ang"), bytes) << "the dialog has asked only whether it may be replaced";
+  EXPECT_EQ(WinkelLesen(Inhalt(ordner / "a.ang")).daempfung[8], "8");
+  ablauf.Speichern();
+  EXPECT_EQ(ordner.Anzahl(), 2);
 }
 
 /// The file's character set lacks them; nothing is replaced silently.
@@ -133,17 +188,17 @@ TEST_F(WinkelablaufTest, FremdeBuchstaben) {
   fragen.Fehler(
       "Winkel.ang konnte nicht gespeichert werden.\nEine Winkeldatei kann diese Zeichen im Namen der "
       "Antenne nicht aufnehmen: ŁźΩΩ");
-  WinkelSpeichern(s, fragen);
+  ablauf.Speichern();
   EXPECT_TRUE(s.winkel.bearbeitet && ordner.Anzahl() == 0);
 
   const std::string bytes = "[Großer Ω]\n\n\n0\n";
   Anlegen(ordner / "o.ang", bytes);
   s.winkel.bearbeitet = false;
   fragen.Erwarten("Winkel-Datei laden", "Hier steht statt ihrer ein Fragezeichen: Ω");
-  EXPECT_TRUE(WinkelOeffnen(s, fragen, ordner / "o.ang"));
+  EXPECT_TRUE(ablauf.Oeffnen(ordner / "o.ang"));
   EXPECT_EQ(s.winkel.antenne, "Großer ?");
   fragen.Erwarten("Winkel-Datei speichern", "o.ang gibt es bereits.", Antwort::Nein);
-  WinkelSpeichern(s, fragen);
+  ablauf.Speichern();
   EXPECT_EQ(Inhalt(ordner / "o.ang"), bytes);
 }
 

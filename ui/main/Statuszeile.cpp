@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 
 #include "station/Datenblatt.h"
 #include "ui/basis/Anzeige.h"
@@ -22,8 +23,15 @@ std::string Dateiangabe(const Station& s) {
   if (s.neuesRufzeichen) return "Neues Rufzeichen, noch ohne Datei";
   return s.UserDatei + " in " + s.Arbeitsverzeichnis;
 }
+bool Unbeschrieben(const Station& s) {
+  const bool leer = std::all_of(s.Zellen.begin(), s.Zellen.end(), [](const auto& z) { return z.empty(); });
+  return leer && s.benutzer == Benutzer() && s.lageplan == Lageplan() && s.Fusszeile.empty();
+}
 std::string Aenderungsangabe(const Station& s) {
-  return s.UserGeaendert ? "nicht gespeichert" : "gespeichert";
+  const char* stand = s.ohneDatei && Unbeschrieben(s) ? "noch keine Datei"
+                      : s.UserGeaendert               ? "nicht gespeichert"
+                                                      : "gespeichert";
+  return std::string(stand) + (s.ohneRettung ? ", keine Kopie für den Fall eines Absturzes" : "");
 }
 std::string Spaltenangabe(const Station& s) {
   return s.werte.Spalte == 0 ? "Hauptfenster" : Spaltenname(s.werte.Spalte);
