@@ -182,24 +182,22 @@ Baenderbild BaenderbildVon(const Station& s, const std::vector<Bandzeile>& zeile
   const std::int16_t typ = s.werte.Grenzwerttyp;
   const std::vector<Grenzwertkurve> kurven = Grenzwertkurven(Von, Bis, {typ});
   unten.kurven = Grenzwertlinien(kurven);
-  std::vector<Bildkurve> marken;
   for (std::size_t i = 0; i < AnzahlGrenzwertarten; ++i) {
-    marken.push_back({QString::fromUtf8(Grenzwertartnamen.at(i)), i, {}, {}});
+    oben.kurven.push_back({QString::fromUtf8(Grenzwertartnamen.at(i)), i, {}, {}});
   }
   for (std::size_t n = 0; n < zeilen.size(); ++n) {
     const Bandzeile& zeile = zeilen[n];
     const double f = zeile.band->auswertung.lambda;
     const bool angekreuzt = s.schaubilder.baender.test(n) && zeile.rechenbar;
     oben.marken.push_back({f, QString::fromLatin1(zeile.band->name), angekreuzt});
-    if (!zeile.rechenbar) continue;
-    Bepunkten(unten.kurven, kurven, {{}, zeile.zahlen.grenzwerte, typ}, angekreuzt);
-    const Dreiwerte werte = Ausgabewerte(zeile.zahlen);
+    if (zeile.rechenbar) Bepunkten(unten.kurven, kurven, {{}, zeile.zahlen.grenzwerte, typ}, angekreuzt);
+    const Dreiwerte werte = zeile.rechenbar ? Ausgabewerte(zeile.zahlen) : Dreiwerte{};
     for (std::size_t i = 0; i < werte.size(); ++i) {
-      if (werte.at(i)) marken.at(i).punkte.push_back({f, *werte.at(i), angekreuzt});
+      oben.kurven.at(i).linie.push_back({f, werte.at(i)});
+      if (werte.at(i)) oben.kurven.at(i).punkte.push_back({f, *werte.at(i), angekreuzt});
     }
   }
-  std::erase_if(marken, [](const Bildkurve& kurve) { return kurve.punkte.empty(); });
-  oben.kurven = std::move(marken);
+  std::erase_if(oben.kurven, [](const Bildkurve& kurve) { return kurve.punkte.empty(); });
   return bild;
 }
 

@@ -121,6 +121,31 @@ TEST_F(Menuegang, JederEintragJedesFensters) {
     Gehen(fenster);
 }
 
+/// What the program has to say of each disabled entry that the arrow key comes to.
+QSet<QString> GruendeUnterwegs(QMenu& menue) {
+  QSet<QString> gruende;
+  for (qsizetype i = menue.actions().size(); i > 0; --i) {
+    QTest::keyClick(&menue, Qt::Key_Down);
+    QCoreApplication::processEvents();
+    const QAction* eintrag = menue.activeAction();
+    if (eintrag != nullptr && !eintrag->isEnabled()) gruende << QToolTip::text();
+  }
+  return gruende;
+}
+
+TEST_F(Menuegang, TastenFindenAuchDenGrund) {
+  auto& datei = Ding<QMenu>(u"mnuBedienung"_s);
+  datei.popup({});
+  QTest::keyClick(&datei, Qt::Key_L);  // where the menu begins
+  EXPECT_TRUE(QToolTip::text().startsWith(u"Erst nach"_s));
+  EXPECT_EQ(GruendeUnterwegs(datei).size(), 4);
+  QTest::keyClick(&datei, Qt::Key_Z);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(QToolTip::text(), u"Es wurde noch keine Datei benutzt.");
+  EXPECT_TRUE(datei.isVisible());
+  datei.close();
+}
+
 /// Tooltips of all windows with a text, window and control name before it.
 QStringList Tooltips() {
   QStringList texte;

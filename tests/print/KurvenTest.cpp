@@ -62,6 +62,27 @@ TEST(Kurvenbilder, LueckenTrennenDieLinie) {
   EXPECT_EQ(striche, 3);  // one of them in the legend
 }
 
+/// The marks of a kind in a line, with "/" where it is interrupted.
+QString Linientext(const Bildkurve& kurve) {
+  QString text = kurve.name + u':';
+  std::size_t zeichen = 0;
+  for (const Kurvenpunkt& punkt : kurve.linie) {
+    text += !punkt.y ? u'/' : Bildpunkt{punkt.x, *punkt.y} == kurve.punkte.at(zeichen++) ? u'x' : u'?';
+  }
+  return text;
+}
+
+TEST(Kurvenbilder, BaenderSindKurvenMitLuecken) {
+  Tisch t;
+  t.Eingeben("14.2", "100");
+  std::vector<Bandzeile> zeilen = AlleBaender(t.s, t.k);
+  zeilen.at(2).rechenbar = false;
+  QStringList linien;
+  for (const Bildkurve& kurve : BaenderbildVon(t.s, zeilen).abstaende.kurven) linien << Linientext(kurve);
+  EXPECT_EQ(linien.join(u' ').toStdString(),
+            "ohne HSM:xx/xxxxxxxxxxxxxxx HSM VDE:xx/xxxxxxx//////// HSM 306:xx/xxxxxx/////////");
+}
+
 /// The documents of a station on paper: nothing outside, nothing on top of another.
 void Geprueft(const Tisch& t, std::size_t seiten) {
   const Mappe mappe = MappeBilden(t.s, t.k, {Papierart::Diagramme, {}, {}, {2026, 11, 21}});

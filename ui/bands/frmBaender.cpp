@@ -262,6 +262,12 @@ bool frmBaender::eventFilter(QObject* objekt, QEvent* ereignis) {
       case Qt::Key_Enter:
         cmdBaenderKopieren->click();
         return true;
+      case Qt::Key_Home:
+        tblBaender->setCurrentCell(0, Band);
+        return true;
+      case Qt::Key_End:
+        tblBaender->setCurrentCell(tblBaender->rowCount() - 1, Band);
+        return true;
       default:
         break;
     }

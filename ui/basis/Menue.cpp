@@ -1,9 +1,12 @@
 #include "ui/basis/Menue.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QSet>
 #include <QStyleOptionMenuItem>
 #include <QToolTip>
@@ -25,16 +28,55 @@ int Buchstabentaste(QChar zeichen) {
 }
 
 void GrundZeigen(const QAction& eintrag, const QPoint& stelle) {
-  if (!eintrag.isEnabled()) QToolTip::showText(stelle, eintrag.toolTip());
+  QToolTip::showText(stelle, eintrag.isEnabled() ? QString() : eintrag.toolTip());
+}
+
+/// Keys reach entries that are disabled, too, and the one reached bears a frame.
+class Menuestil : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  int styleHint(StyleHint hinweis, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* antwort) const override {
+    if (hinweis == SH_Menu_AllowActiveAndDisabled) return 1;
+    return QProxyStyle::styleHint(hinweis, option, widget, antwort);
+  }
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* maler,
+                   const QWidget* widget) const override {
+    QProxyStyle::drawControl(element, option, maler, widget);
+    if (element != CE_MenuItem || (option->state & (State_Selected | State_Enabled)) != State_Selected)
+      return;
+    maler->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
+    maler->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  }
+};
+
+/// One for all menus, which the application owns.
+QStyle* Gemeinsam() {
+  const QString name = u"Menuestil"_s;
+  auto* stil = qApp->findChild<QProxyStyle*>(name, Qt::FindDirectChildrenOnly);
+  if (stil == nullptr) {
+    stil = new Menuestil(QApplication::style()->name());
+    stil->setObjectName(name);
+    stil->setParent(qApp);
+  }
+  return stil;
 }
 
 }  // namespace
 
 Fenstermenue::Fenstermenue(const QString& titel, QWidget* eltern) : QMenu(titel, eltern) {
   setToolTipsVisible(true);
-  connect(this, &QMenu::hovered, this, [this](const QAction* eintrag) {
-    GrundZeigen(*eintrag, mapToGlobal(actionGeometry(const_cast<QAction*>(eintrag)).bottomLeft()));
-  });
+  setStyle(Gemeinsam());
+  // Queued, because the first entry is reached before the menu is on the screen.
+  connect(this, &QMenu::hovered, this, &Fenstermenue::Begruenden, Qt::QueuedConnection);
+}
+
+/// Beside the entry: a tooltip is shown below the place that it is said to be of.
+void Fenstermenue::Begruenden() {
+  if (activeAction() == nullptr) return;
+  const QRect platz = actionGeometry(activeAction());
+  GrundZeigen(*activeAction(), mapToGlobal(platz.topRight() - QPoint(0, platz.height())));
 }
 
 QString Fenstermenue::Gezeigt(const QAction& eintrag) const {
@@ -72,6 +114,7 @@ void Fenstermenue::keyPressEvent(QKeyEvent* ereignis) {
     if (!buchstabe || !eintrag->isVisible()) continue;
     if (Zugriffstaste(Gezeigt(*eintrag)) != Buchstabentaste(ereignis->text().at(0))) continue;
     setActiveAction(eintrag);
+    Begruenden();
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     return QMenu::keyPressEvent(&enter);
   }

@@ -44,6 +44,9 @@ class Fenstermenue : public QMenu {
   void initStyleOption(QStyleOptionMenuItem* option, const QAction* aktion) const override;
   void keyPressEvent(QKeyEvent* ereignis) override;
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
+ private:
+  void Begruenden();
 };
 
 /// At the end of the menu.

@@ -21,6 +21,7 @@
 #include "platform/Drucker.h"
 #include "platform/Plattform.h"
 #include "ui/basis/Einpassen.h"
+#include "ui/basis/Menue.h"
 #include "ui/info/Hilfebuch.h"
 #include "ui/info/Seitenanzeige.h"
 
@@ -66,13 +67,18 @@ void frmHilfe::MenuesAufbauen() {
     connect(aktion, &QAction::triggered, this, tun);
     return aktion;
   };
-  QMenu* datei = menuBar()->addMenu(u"&Datei"_s);
+  const auto menue = [this](const QString& titel) {
+    auto* neu = new Fenstermenue(titel, this);
+    menuBar()->addMenu(neu);
+    return neu;
+  };
+  QMenu* datei = menue(u"&Datei"_s);
   QAction* drucken =
       eintrag(datei, u"mnuDrucken"_s, u"Seite &drucken …"_s, QKeySequence::Print, [this] { Drucken(); });
   datei->addSeparator();
   eintrag(datei, u"mnuSchliessen"_s, u"&Schließen"_s, Qt::Key_Escape, [this] { close(); });
 
-  QMenu* gehen = menuBar()->addMenu(u"&Gehe zu"_s);
+  QMenu* gehen = menue(u"&Gehe zu"_s);
   QAction* zurueck =
       eintrag(gehen, u"mnuZurueck"_s, u"&Zurück"_s, Qt::ALT | Qt::Key_Left, [this] { anzSeite->backward(); });
   QAction* vor =
@@ -88,12 +94,12 @@ void frmHilfe::MenuesAufbauen() {
   eintrag(gehen, u"mnuWeitersuchen"_s, u"&Nächste Fundstelle in der Seite"_s, Qt::Key_F3,
           [this] { anzSeite->NaechsteMarkierung(); });
 
-  QMenu* ansicht = menuBar()->addMenu(u"&Ansicht"_s);
+  QMenu* ansicht = menue(u"&Ansicht"_s);
   eintrag(ansicht, u"mnuGroesser"_s, u"Schrift &größer"_s, QKeySequence::ZoomIn,
           [this] { anzSeite->zoomIn(); });
   eintrag(ansicht, u"mnuKleiner"_s, u"Schrift &kleiner"_s, QKeySequence::ZoomOut,
           [this] { anzSeite->zoomOut(); });
-  QMenu* hilfe = menuBar()->addMenu(u"&Hilfe"_s);
+  QMenu* hilfe = menue(u"&Hilfe"_s);
   eintrag(hilfe, u"mnuHilfeBenutzen"_s, u"Hilfe &benutzen"_s, Qt::Key_F1,
           [this] { Zeigen(u"hilfe-benutzen.html"_s); });
 

@@ -69,6 +69,11 @@ constexpr Menueeintrag Hilfe[] = {
     {u"mnuInfo", u"In&fo", Befehlend<Befehl::InfoZeigen>},
 };
 
+void ZuletztErlauben(QMenu& menue, bool an) {
+  menue.setEnabled(an);
+  menue.menuAction()->setToolTip(an ? QString() : u"Es wurde noch keine Datei benutzt."_s);
+}
+
 }  // namespace
 
 void HauptmenueAnlegen(QMenuBar& leiste, Ablauf& ablauf) {
@@ -79,7 +84,7 @@ void HauptmenueAnlegen(QMenuBar& leiste, Ablauf& ablauf) {
   auto* zuletzt = new QMenu(u"&Zuletzt benutzt"_s, &leiste);
   zuletzt->setObjectName(u"mnuZuletzt"_s);
   zuletzt->menuAction()->setObjectName(u"mnuZuletzt"_s);
-  zuletzt->setEnabled(false);
+  ZuletztErlauben(*zuletzt, false);
   leiste.findChild<QMenu*>(u"mnuBedienung"_s)->insertMenu(leiste.findChild<QAction*>(u"mnuS1"_s), zuletzt);
   menue(u"mnuBearbeiten"_s, u"&Bearbeiten"_s, Bearbeiten);
   menue(u"mnuOption"_s, u"&Optionen"_s, Optionen);
@@ -92,7 +97,7 @@ void HauptmenueAnlegen(QMenuBar& leiste, Ablauf& ablauf) {
 
 void ZuletztZeigen(QMenuBar& leiste, const std::vector<std::string>& dateien, Ablauf& ablauf) {
   auto* menue = leiste.findChild<QMenu*>(u"mnuZuletzt"_s);
-  menue->setEnabled(!dateien.empty());
+  ZuletztErlauben(*menue, !dateien.empty());
   menue->clear();
   for (std::size_t i = 0; i < dateien.size(); ++i) {
     const QString pfad = QString::fromStdString(dateien[i]);

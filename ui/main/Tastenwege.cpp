@@ -54,7 +54,7 @@ constexpr Tastenweg Wege[] = {
     {Qt::CTRL | Qt::Key_N, Eingabefenster, Befehlend<Befehl::UserNeu>},
     {Qt::CTRL | Qt::Key_O, Eingabefenster, Befehlend<Befehl::DateiLaden>},
     {Qt::CTRL | Qt::Key_S, Eingabefenster, Befehlend<Befehl::DateiSpeichern>},
-    {Qt::CTRL | Qt::Key_P, Arbeitsfenster, Tuend<PapiereZeigen>},
+    {Qt::CTRL | Qt::Key_P, Eingabefenster, Tuend<PapiereZeigen>},
     {Qt::CTRL | Qt::Key_B, Arbeitsfenster, Befehlend<Befehl::BaenderZeigen>},
     {Qt::CTRL | Qt::Key_D, Arbeitsfenster, Befehlend<Befehl::DiagrammeZeigen>},
     {Qt::CTRL | Qt::Key_L, Arbeitsfenster, Befehlend<Befehl::LageplanZeigen>},

@@ -87,9 +87,7 @@ void AntennenTab::Bauen() {
   List1 = Spaltenliste<Anzeigeliste>(u"List1"_s, u"Bänder der Antenne: MHz, Gewinn in dBi, Elemente"_s, this);
 
   lblGewaehlt = Label(u"lblGewaehlt"_s, {}, this);
-  lblGewaehlt->setTextFormat(Qt::PlainText);
   lblAntenne = Label(u"lblAntenne"_s, {}, this);
-  lblAntenne->setTextFormat(Qt::PlainText);
   lblAntenne->setFrameShape(QFrame::StyledPanel);
   cmdAntenne = new QPushButton(u"Antenne nehmen"_s, this);
   cmdAntenne->setObjectName(u"cmdAntenne"_s);

@@ -106,7 +106,6 @@ void WinkelTab::TabelleBauen(Signalton& ton) {
   Command1->setAutoDefault(true);
   lblWDatei = new QLabel(rhmWinkel);
   lblWDatei->setObjectName(u"lblWDatei"_s);
-  lblWDatei->setTextFormat(Qt::PlainText);
   picWinkel = new Winkelbild(rhmWinkel);
   picWinkel->setObjectName(u"picWinkel"_s);
   picWinkel->setAccessibleName(u"Polardiagramm der Dämpfung und der Sicherheitsabstände"_s);

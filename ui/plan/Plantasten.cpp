@@ -171,11 +171,12 @@ bool Planblick::SchrittZurueck() {
 }
 
 bool Planblick::eventFilter(QObject* objekt, QEvent* ereignis) {
-  if ((objekt != txtMass && objekt != this) || ereignis->type() != QEvent::KeyPress)
-    return QWidget::eventFilter(objekt, ereignis);
+  if (ereignis->type() != QEvent::KeyPress) return QWidget::eventFilter(objekt, ereignis);
   const auto* taste = static_cast<QKeyEvent*>(ereignis);
-  if (taste->matches(QKeySequence::Undo) && SchrittZurueck()) return true;
-  if (objekt == this) return false;
+  const auto* control = qobject_cast<QWidget*>(objekt);
+  const bool hier = control != nullptr && control->window() == window();
+  if (hier && taste->matches(QKeySequence::Undo) && SchrittZurueck()) return true;
+  if (objekt != txtMass) return QWidget::eventFilter(objekt, ereignis);
   if (taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter) {
     MassUebernehmen();  // the field would hand the key on, to be taken once more
     return true;

@@ -36,7 +36,9 @@ bool Zahlenzelle::eventFilter(QObject* feld, QEvent* ereignis) {
   if (ereignis->type() == QEvent::KeyPress) {
     const int taste = static_cast<QKeyEvent*>(ereignis)->key();
     const bool enter = taste == Qt::Key_Return || taste == Qt::Key_Enter;
-    if (enter && static_cast<Planfeld*>(feld)->Unklar()) return true;
+    const auto* eingabe = static_cast<Planfeld*>(feld);
+    if (enter && eingabe->Unklar()) return true;
+    if (taste == Qt::Key_Escape && eingabe->isModified()) return false;  // the field takes it back first
   }
   return QStyledItemDelegate::eventFilter(feld, ereignis);
 }
