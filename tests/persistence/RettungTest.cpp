@@ -153,7 +153,7 @@ TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
     EXPECT_FALSE(lauf.ablauf.Beenden());
   }
   {
-    std::ofstream(anderswo / "kopie") << Inhalt(Kopien().at(0));
+    fs::copy_file(Kopien().at(0), anderswo / "kopie");
     Lauf lauf(ordner.pfad);
     Winkeldaten quad{"Quad", "", "", {}};
     quad.daempfung[3] = "7.5";
