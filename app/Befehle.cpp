@@ -13,6 +13,7 @@
 #include "station/Baender.h"
 #include "station/Diagramme.h"
 #include "station/Haupthandlungen.h"
+#include "station/Katalogwechsel.h"
 #include "station/Lageplanhandlungen.h"
 #include "ui/bands/frmBaender.h"
 #include "ui/charts/frmDiagramme.h"
@@ -134,10 +135,10 @@ void Programm::DateiOeffnen(const QString& name) {
 
 void Programm::KatalogeErneuern() {
   Meldungen meldungen;
-  kataloge_ = KatalogeLesen(PfadAusUtf8(station_.ProgrammVerzeichnis), meldungen, ersatz_);
-  station_.schaubilder.kabel.reset();
-  station_.AntennenIndex = -1;
-  station_.antenneNehmbar = false;
+  const Kataloge vorher =
+      std::exchange(kataloge_, KatalogeLesen(PfadAusUtf8(station_.ProgrammVerzeichnis), meldungen, ersatz_));
+  Anhaengen(meldungen, KatalogeGewechselt(station_, vorher, kataloge_));
+  verlauf_.Angleichen([&](Station& s) { KatalogeGewechselt(s, vorher, kataloge_); });
   // Their lists are those of the former catalogues.
   const auto ersetzen = [this](auto& fenster, auto anlegen) {
     if (!fenster) return;
@@ -185,10 +186,10 @@ void Programm::Hinzeigen(const Papierort& ort) {
 
 void Programm::TipZeigen() {
   if (!tip_) {
-    const std::filesystem::path verzeichnis =
-        ersatz_.empty() ? PfadAusUtf8(station_.ProgrammVerzeichnis) : ersatz_;
-    tip_ = std::make_unique<frmTip>(plattform_.speicher, TipsLaden(verzeichnis / "TIPOFDAY.TXT"),
-                                    &hauptfenster_);
+    std::filesystem::path tips = PfadAusUtf8(station_.ProgrammVerzeichnis) / "TIPOFDAY.TXT";
+    std::error_code egal;
+    if (!ersatz_.empty() && !std::filesystem::exists(tips, egal)) tips = ersatz_ / "TIPOFDAY.TXT";
+    tip_ = std::make_unique<frmTip>(plattform_.speicher, TipsLaden(tips), &hauptfenster_);
   }
   Oeffnen(*tip_);
 }

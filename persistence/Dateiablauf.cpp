@@ -24,7 +24,7 @@ Fehlergrund Herbringen(const fs::path& von, const fs::path& nach) {
   const Gelesen alt = DateiLesen(nach, grenzen::UserDatei);
   if (alt.status != Lesestatus::Fehlt) {
     if (alt.status == neu.status && alt.bytes == neu.bytes) return std::nullopt;
-    if (Fehlergrund grund = DateiKopieren(nach, FreierAltname(nach))) return grund;
+    if (Fehlergrund grund = DateiKopieren(nach, Altname(nach))) return grund;
   }
   if (neu.status != Lesestatus::Fehlt) return DateiKopieren(von, nach);
   std::error_code fehler;
@@ -106,7 +106,7 @@ void Dateiablauf::Auswerten(const Gelesen& datei, bool gewaehlt) {
   if (gewaehlt && bericht.abgebrochen) {
     Sagen("Die Datei " + station_.UserDatei +
           " ist unvollständig: Sie endet zu früh.\nWas fehlt, bleibt leer. " + "Die Datei bleibt als " +
-          PfadAlsUtf8(FreierAltname(Pfad()).filename()) + " erhalten.");
+          PfadAlsUtf8(Altname(Pfad()).filename()) + " erhalten.");
   }
   Umwandeln(bericht);
   if (gewaehlt) station_.UserGeaendert = true;
@@ -140,7 +140,7 @@ void Dateiablauf::Umwandeln(const Lesebericht& bericht) {
   // What another conversion has put there is needed, too.
   const bool belegt =
       frueher.status != Lesestatus::Fehlt && frueher.bytes != DateiLesen(Pfad(), grenzen::UserDatei).bytes;
-  const bool behalten = !belegt || !DateiKopieren(bak, FreierAltname(bak));
+  const bool behalten = !belegt || !DateiKopieren(bak, Altname(bak));
   const bool kopiert = behalten && !DateiKopieren(Pfad(), bak);
   if (kopiert && !bericht.abgebrochen) user_.alteFassungNoetig = false;
   station_.UserGeaendert = true;

@@ -95,10 +95,10 @@ Fehlergrund DateiKopieren(const fs::path& von, const fs::path& nach) {
 
 Fehlergrund WarumNichtBeschreibbar(const fs::path& verzeichnis) {
   // A full disk still takes names.
-  return Versuchen([&] { Neufassung(verzeichnis / "vesk").Schreiben("x"); });
+  return Versuchen([&] { Neufassung(Altname(verzeichnis / "probe.vesk")).Schreiben("x"); });
 }
 
-fs::path FreierAltname(const fs::path& pfad) {
+fs::path Altname(const fs::path& pfad, const Gelesen& fassung) {
   fs::path name = pfad;
   std::error_code fehler;
   for (int nummer = 1;; ++nummer) {
@@ -106,7 +106,14 @@ fs::path FreierAltname(const fs::path& pfad) {
     bare += nummer == 1 ? std::string("-alt") : "-alt" + std::to_string(nummer);
     name.replace_filename(bare += pfad.extension());
     if (fs::symlink_status(name, fehler).type() == fs::file_type::not_found || fehler) return name;
+    if (fassung.status != Lesestatus::Gelesen) continue;
+    const Gelesen datei = DateiLesen(name, fassung.bytes.size());
+    if (datei.status == Lesestatus::Gelesen && datei.bytes == fassung.bytes) return name;
   }
+}
+
+fs::path Altname(const fs::path& pfad) {
+  return Altname(pfad, DateiLesen(pfad, grenzen::Antennen));
 }
 
 }  // namespace vesk

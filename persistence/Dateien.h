@@ -42,7 +42,10 @@ Fehlergrund WarumOhneInhalt(const std::string& name, const Gelesen& datei);
 /// Why no file can be written into a directory; nothing when one can. Leaves none there.
 Fehlergrund WarumNichtBeschreibbar(const std::filesystem::path& verzeichnis);
 
-/// "user-alt.dat" beside "user.dat", or "user-alt2.dat" and so on: a name that is still free.
-std::filesystem::path FreierAltname(const std::filesystem::path& pfad);
+/// Where `fassung` of a file is kept: "user-alt.dat" beside "user.dat", or "user-alt2.dat" and so on, the
+/// first name that is still free or holds just that.
+std::filesystem::path Altname(const std::filesystem::path& pfad, const Gelesen& fassung);
+/// The same for what stands in the file now.
+std::filesystem::path Altname(const std::filesystem::path& pfad);
 
 }  // namespace vesk

@@ -79,7 +79,7 @@ bool Dateiablauf::PlanSchreiben() {
   const std::string bytes = LageplanBytes(station_.lageplan);
   if (vorher.status != Lesestatus::Fehlt || !LageplanLeer(station_.lageplan)) {
     const bool andererOrt = pfad != planpfad_;
-    const fs::path alt = FreierAltname(pfad);
+    const fs::path alt = Altname(pfad);
     if (andererOrt) plan_.abgelehnt = false;
     // Nobody has been asked about a plan that lies where the user's file goes.
     plan_.alteFassungNoetig =
@@ -104,7 +104,7 @@ void Dateiablauf::PlanZurueckholen(const std::string& bytes) {
   const fs::path pfad = Lageplanpfad(Pfad());
   Lageplanlesung lesung = LageplanLesen(bytes);
   if (!lesung.fehler.empty()) {
-    const fs::path alt = FreierAltname(pfad);
+    const fs::path alt = Altname(pfad, {Lesestatus::Gelesen, bytes, {}});
     const Fehlergrund grund = DateiSchreiben(alt, bytes, Pfad());
     Fehler("Der Lageplan läßt sich nicht zurückholen.",
            lesung.fehler + "\n" + grund.value_or("Er liegt als " + PfadAlsUtf8(alt.filename()) + " bereit."));

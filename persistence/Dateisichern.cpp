@@ -167,7 +167,7 @@ bool Dateiablauf::DarfFremdesUeberschreiben(Arbeitsdatei& datei, const fs::path&
 }
 
 bool Dateiablauf::AlteFassungBehalten(Arbeitsdatei& datei, const fs::path& pfad) {
-  if (const Fehlergrund grund = DateiKopieren(pfad, FreierAltname(pfad))) {
+  if (const Fehlergrund grund = DateiKopieren(pfad, Altname(pfad))) {
     return Fehler("Die Datei " + PfadAlsUtf8(pfad.filename()) + " konnte nicht gespeichert werden.", *grund);
   }
   datei.alteFassungNoetig = false;

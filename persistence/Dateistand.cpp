@@ -12,7 +12,7 @@ std::string Ueberschreibfrage(const fs::path& pfad, const std::string& warum) {
   return "Die Datei " + PfadAlsUtf8(pfad.filename()) + " " + warum +
          "\nSoll sie mit den Daten aus diesem Fenster überschrieben werden? Die andere Fassung bleibt dann "
          "als " +
-         PfadAlsUtf8(FreierAltname(pfad).filename()) + " erhalten.";
+         PfadAlsUtf8(Altname(pfad).filename()) + " erhalten.";
 }
 
 Gelesen Dateistand::Lesen(const fs::path& pfad) {

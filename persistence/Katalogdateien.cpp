@@ -71,7 +71,7 @@ bool KatalogErsetzen(const fs::path& pfad, const fs::path& verzeichnis, Rueckfra
   if (!brauchbar) return fehler("Die Datei hat nicht den Aufbau eines solchen Katalogs.");
   const Gelesen bisher = DateiLesen(ziel, art.grenze);
   if (bisher.status == Lesestatus::Gelesen && bisher.bytes == neu.bytes) return false;
-  const fs::path alt = FreierAltname(ziel);
+  const fs::path alt = Altname(ziel);
   const std::string bleibt = bisher.status == Lesestatus::Fehlt
                                  ? ""
                                  : "\nDer bisherige bleibt als " + PfadAlsUtf8(alt.filename()) + " erhalten.";

@@ -98,7 +98,7 @@ Vergleich Vergleichen(const fs::path& kopie, const std::string& text, const fs::
   if (gelesen.status != Lesestatus::Gelesen) return Vergleich::Fehlt;
   if (gelesen.bytes == text) return Vergleich::Gesichert;
   if (Aenderungszeit(kopie) > Aenderungszeit(datei) || !brauchbar(gelesen)) return Vergleich::Fehlt;
-  const fs::path alt = FreierAltname(datei);
+  const fs::path alt = Altname(datei, {Lesestatus::Gelesen, text, {}});
   // Where there is no room now, another time.
   if (DateiSchreiben(alt, text, datei)) return Vergleich::Ungewiss;
   beiseite.push_back(alt);
@@ -156,7 +156,7 @@ Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& dat
   }
   const fs::path wirklich = datei.empty() ? fs::path() : WirklicherPfad(datei);
   const bool dieselbe = !pfad_.empty() && wirklich == datei_;
-  if (dieselbe && inhalt == zuletzt_) return Stand::Gesichert;
+  if (dieselbe && inhalt == zuletzt_ && sperre_.Gilt(pfad_)) return Stand::Gesichert;
   const std::string bytes = Bytes(wirklich, inhalt);
   const bool erneuert = dieselbe && Schreiben(pfad_, datei_, bytes, sperre_) == Ausgang::Geschrieben;
   if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return Stand::Gescheitert;

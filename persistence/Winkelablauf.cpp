@@ -143,18 +143,20 @@ bool Winkelablauf::Ersetzen(const fs::path& pfad, const std::string& bytes, bool
 
 bool Winkelablauf::DarfErsetzen(const fs::path& pfad, const std::string& bytes, bool fremd, bool gefragt) {
   const Gelesen jetzt = DateiLesen(pfad, grenzen::Winkel);
-  if (jetzt.status == Lesestatus::Fehlt || jetzt.bytes == bytes) return true;
+  std::error_code egal;
+  if (jetzt.status == Lesestatus::Fehlt || jetzt.bytes == bytes || fs::is_directory(pfad, egal)) return true;
   const bool behalten = fremd || !WinkelLesen(jetzt.bytes).ganz;
-  const bool gelesen = station_.winkel.dateiGelesen && stand_.Kennt(pfad);
+  const bool bekannt = stand_.Kennt(pfad);
+  const bool gelesen = station_.winkel.dateiGelesen && bekannt;
   const std::string warum = jetzt.status == Lesestatus::Fehler ? NichtLesbar
                             : gelesen                          ? VonAnderenGeaendert
                                                                : "gibt es bereits.";
   const std::string frage = behalten ? Ueberschreibfrage(pfad, warum)
                                      : "Die Datei " + PfadAlsUtf8(pfad.filename()) +
                                            " gibt es bereits. Soll sie überschrieben werden?";
-  const bool fragen = fremd || (!gefragt && !station_.winkel.dateiGelesen);
+  const bool fragen = gefragt ? fremd && bekannt : fremd || !station_.winkel.dateiGelesen;
   if (fragen && rueckfragen_.Fragen(Bestaetigung(TitelSpeichern, frage)) != Antwort::Ja) return false;
-  const Fehlergrund grund = behalten ? DateiKopieren(pfad, FreierAltname(pfad)) : std::nullopt;
+  const Fehlergrund grund = behalten ? DateiKopieren(pfad, Altname(pfad)) : std::nullopt;
   return !grund || Fehler(pfad, "gespeichert", *grund);
 }
 

@@ -159,9 +159,8 @@ class Stapel {
       if (gefunden == zellen_[i].end() || *gefunden == zeichen) continue;
       if (zeichen != 0) {
         throw Eingabefehler(std::string(Angabenamen[static_cast<std::size_t>(kopf_.spalten[i])]) + ": „" +
-                            Gekuerzt(zellen_[i]) +
-                            "“ ist nicht eindeutig, das Dezimalzeichen der Tabelle ist " +
-                            (zeichen == ',' ? "das Komma." : "der Punkt."));
+                            Gekuerzt(zellen_[i]) + "“ ist nicht eindeutig, davor steht als Dezimalzeichen " +
+                            (zeichen == ',' ? "ein Komma." : "ein Punkt."));
       }
       zeichen = *gefunden;
     }

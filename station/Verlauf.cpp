@@ -39,10 +39,20 @@ auto Tabelle(const Station& s) {
   return std::tie(s.winkel.antenne, s.winkel.gewinn, s.winkel.frequenz, s.Datenblattspalten[0].Winkel);
 }
 
+/// Where the angle table stands on the disk, or that it stands nowhere.
+template <typename Seite>
+auto Verbleib(Seite& w) {
+  return std::tie(w.datei, w.herkunft, w.dateiGelesen, w.bearbeitet);
+}
+
 /// The state `ziel` in the surroundings of today.
 Station Wiederhergestellt(const Station& jetzt, const Station& ziel) {
   Station s = ziel;
-  if (Tabelle(jetzt) != Tabelle(ziel)) s.winkel.bearbeitet = true;
+  if (Tabelle(jetzt) == Tabelle(ziel)) {
+    Verbleib(s.winkel) = Verbleib(jetzt.winkel);
+  } else {
+    s.winkel.bearbeitet = true;
+  }
   const bool afu = ziel.einstellungen.AFu;
   s.einstellungen = jetzt.einstellungen;
   s.einstellungen.AFu = afu;
@@ -91,6 +101,11 @@ void Verlauf::MerkenBeimVerlassen(const Station& vorher, const Station& jetzt) {
   Eintragen(vorher, jetzt, unverlassen_);
   feld_ = nullptr;
   unverlassen_ = false;
+}
+
+void Verlauf::Angleichen(const std::function<void(Station&)>& tun) {
+  for (Station& s : zurueck_) tun(s);
+  for (Station& s : vor_) tun(s);
 }
 
 bool Verlauf::Zurueck(Station& s) {

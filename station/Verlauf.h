@@ -1,5 +1,6 @@
 #pragma once
 #include <deque>
+#include <functional>
 #include <vector>
 
 #include "station/Station.h"
@@ -22,6 +23,8 @@ class Verlauf {
   /// False when there is nothing to take back or to repeat.
   bool Zurueck(Station& s);
   bool Vor(Station& s);
+  /// Every state kept follows a change of what lies outside the station.
+  void Angleichen(const std::function<void(Station&)>& tun);
   bool ZurueckMoeglich() const { return !zurueck_.empty(); }
   bool VorMoeglich() const { return !vor_.empty(); }
 

@@ -94,7 +94,7 @@ TEST(Verzeichnisse, WoNichtsZuSchreibenIst) {
   const Verzeichnisse neu{ordner.filePath(u"neu/dort"_s), daten};
   EXPECT_EQ(MitgelieferteKopieren(neu, speicher), "");
   // All is there already, but nothing can be added. Whoever may do anything is stopped by a name.
-  QDir(neu.programm).mkpath(u".vesk.neu"_s);
+  QDir(neu.programm).mkpath(u".probe-alt.vesk.neu"_s);
   EXPECT_NE(MitgelieferteKopieren(neu, speicher), "");
 }
 

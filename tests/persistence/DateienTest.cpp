@@ -50,6 +50,16 @@ TEST(DateiLesen, WasImmerDortSteht) {
   }
 }
 
+TEST(Altname, HaeltJedeFassungEinmalFest) {
+  const Ordner ordner;
+  for (const char* fassung : {"eins", "zwei", "eins"}) {
+    Anlegen(ordner / "x.dat", fassung);
+    EXPECT_EQ(DateiKopieren(ordner / "x.dat", Altname(ordner / "x.dat")), std::nullopt);
+  }
+  EXPECT_EQ(Inhalt(ordner / "x-alt.dat") + Inhalt(ordner / "x-alt2.dat"), "einszwei");
+  EXPECT_EQ(ordner.Anzahl(), 3);
+}
+
 using Ausgang = Dateistand::Ausgang;
 
 TEST(Dateistand, ZweiProgrammeAnEinerDatei) {

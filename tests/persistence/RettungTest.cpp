@@ -136,6 +136,9 @@ TEST_F(RettungTest, DieAlteKopieGehtErstNachDerNeuen) {
   lauf.ablauf.RettungSichern();
   EXPECT_TRUE(Kopien().size() == 1 && Kopien()[0] != alte);
   EXPECT_FALSE(lauf.station.ohneRettung);
+  fs::remove(Kopien()[0]);
+  lauf.ablauf.RettungSichern();
+  EXPECT_EQ(Kopien().size(), 1U) << "somebody has tidied up";
 }
 
 TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {

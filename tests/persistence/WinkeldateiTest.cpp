@@ -139,6 +139,13 @@ TEST_F(WinkelablaufTest, SpeichernFragtWoEtwasVerlorenGinge) {
   fragen.Datei(ordner / "neu.ang");
   ablauf.Speichern();
   EXPECT_EQ(WinkelLesen(Inhalt(ordner / "neu.ang")).antenne, "andere");
+
+  s.winkel.antenne = "dritte";
+  s.winkel.datei = PfadAlsUtf8(ordner / "Winkel.ang");
+  s.winkel.dateiGelesen = false;
+  fragen.Datei(ordner / "Winkel.ang");
+  Winkelablauf(s, fragen).SpeichernUnter();
+  EXPECT_EQ(WinkelLesen(Inhalt(ordner / "Winkel-alt2.ang")).antenne, "andere") << "the dialog has asked";
 }
 
 TEST_F(WinkelablaufTest, WasEinAnderesProgrammGeschriebenHat) {
@@ -163,8 +170,7 @@ TEST_F(WinkelablaufTest, WasEinAnderesProgrammGeschriebenHat) {
   fs::remove(datei);
   fs::create_directory(datei);
   s.winkel.datei = PfadAlsUtf8(datei);
-  fragen.Erwarten("Winkel-Datei speichern", "a.ang konnte nicht gelesen werden.\nSoll sie", Antwort::Ja);
-  fragen.Fehler("a.ang konnte nicht gespeichert werden.\n");
+  fragen.Fehler("a.ang konnte nicht gespeichert werden.\nUnter diesem Namen gibt es ein Verzeichnis.");
   ablauf.Speichern();
 }
 

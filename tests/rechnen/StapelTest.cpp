@@ -123,9 +123,9 @@ TEST(Stapel, ZeilenUndTrennzeichen) {
       {"", "qrg;pwr\n14.2;100.5\n7.1;50\n", "2:14.2 100.5 3:7.1 50"},
       {"", "qrg;pwr\n14;100\n7.1;50\n", "2:14 100 3:7,1 50"},
       {"", "qrg;pwr\n1.4;1,5\n14;9\n14,2;1.000\n14,2;100\n14;1.000\n",
-       "2:pwr: „1,5“ ist nicht eindeutig, das Dezimalzeichen der Tabelle ist der Punkt. 3:14 9 "
-       "4:pwr: „1.000“ ist nicht eindeutig, das Dezimalzeichen der Tabelle ist das Komma. 5:14,2 100 "
-       "6:pwr: „1.000“ ist nicht eindeutig, das Dezimalzeichen der Tabelle ist das Komma.",
+       "2:pwr: „1,5“ ist nicht eindeutig, davor steht als Dezimalzeichen ein Punkt. 3:14 9 "
+       "4:pwr: „1.000“ ist nicht eindeutig, davor steht als Dezimalzeichen ein Komma. 5:14,2 100 "
+       "6:pwr: „1.000“ ist nicht eindeutig, davor steht als Dezimalzeichen ein Komma.",
        1},
       {"", "\xEF\xBB\xBFPWR,--Qrg\r\n\r\n100,14\r\n \t\r\n\"50,5\", 7 \r\n", "3:14 100 5:7 50.5"},
       {"", "qrg\tpwr\n14,2\t100\n", "2:14,2 100"},

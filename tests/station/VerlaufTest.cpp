@@ -81,10 +81,18 @@ TEST_F(Rueckgaengig, EndetBeiEinerAnderenDatei) {
 }
 
 TEST_F(Rueckgaengig, EineZurueckgeholteWinkeltabelleIstNichtGespeichert) {
+  const auto gespeichert = [&](const char* datei) { s.winkel.datei = datei, s.winkel.bearbeitet = false; };
+  gespeichert("a.ang");
+  Schritt([&] { s.werte.PWRText = "100"; });
   Schritt([&] { Tun(WinkeldaempfungGetippt, std::size_t{1}, std::string("3")); });
-  s.winkel.bearbeitet = false;  // saved
-  EXPECT_TRUE(verlauf.Zurueck(s));
-  EXPECT_TRUE(s.winkel.bearbeitet);
+  gespeichert("a.ang");
+  EXPECT_TRUE(verlauf.Zurueck(s) && s.winkel.bearbeitet);
+  EXPECT_TRUE(verlauf.Zurueck(s) && s.werte.PWRText != "100");
+  EXPECT_TRUE(s.winkel.bearbeitet) << "still in no file";
+  gespeichert("b.ang");
+  EXPECT_TRUE(verlauf.Vor(s) && s.werte.PWRText == "100");
+  EXPECT_FALSE(s.winkel.bearbeitet);
+  EXPECT_EQ(s.winkel.datei, "b.ang");
 }
 
 TEST(Wegweiser, NenntDenNaechstenSchrittUndTutIhn) {
