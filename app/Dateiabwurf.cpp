@@ -28,7 +28,7 @@ bool Dateiabwurf::eventFilter(QObject* objekt, QEvent* ereignis) {
   auto* control = qobject_cast<QWidget*>(objekt);
   if (control == nullptr || !control->window()->objectName().startsWith(u"frm"_s)) return false;
   switch (ereignis->type()) {
-    case QEvent::Polish:
+    case QEvent::Show:
       // Otherwise no drag over the window is told at all.
       if (control->isWindow()) control->setAcceptDrops(true);
       return false;

@@ -22,12 +22,17 @@ QFontMetricsF Masse(const Schrift& schrift) {
   return QFontMetricsF(Papierschrift(schrift));
 }
 
+/// The toolkit measures a tab in one way and draws it in another; on paper it is a blank.
+QString OhneTabs(QString text) {
+  return text.replace(u'\t', u' ');
+}
+
 /// What of a text can stand in one line at all: more characters that have a width never fit beside each
 /// other.
 QString Zeilenanfang(const QString& text) {
   constexpr qsizetype Laengste = 1000;
   const bool mitten = text.size() > Laengste && text.at(Laengste - 1).isHighSurrogate();
-  return text.left(mitten ? Laengste - 1 : Laengste);
+  return OhneTabs(text.left(mitten ? Laengste - 1 : Laengste));
 }
 
 /// Length of the longest head of `text` that is no wider than `breite`, at least one character, and never
@@ -85,7 +90,7 @@ QFont Papierschrift(const Schrift& schrift) {
 }
 
 double Textbreite(const QString& text, const Schrift& schrift) {
-  return Masse(schrift).horizontalAdvance(text) / Blatt::Einheit;
+  return Masse(schrift).horizontalAdvance(OhneTabs(text)) / Blatt::Einheit;
 }
 
 double Zeilenhoehe(const Schrift& schrift) {
@@ -148,7 +153,7 @@ void Blatt::Text(QPointF punkt, const QString& text, const Schrift& schrift, Bue
   }
   maler_.setFont(Papierschrift(schrift));
   maler_.setPen(schrift.farbe);
-  maler_.drawText(Einheiten(punkt), text);
+  maler_.drawText(Einheiten(punkt), OhneTabs(text));
 }
 
 void Blatt::Einzeiler(QPointF punkt, double breite, const QString& text, const Schrift& schrift,

@@ -110,6 +110,10 @@ std::string Hinweise(const Rechenergebnis& e, const Meldungen* meldungen) {
     if (meldungen != nullptr && std::none_of(meldungen->begin(), meldungen->end(), gesagt)) continue;
     Anreihen(text, Kurzform(art, e));
   }
+  // No calculation has a note for it.
+  if (meldungen == nullptr && e.vollstaendig && e.grenzwerte.hsm306.Uss == 0) {
+    Anreihen(text, "über dem Bereich von HSM 306");
+  }
   return text;
 }
 

@@ -205,6 +205,7 @@ std::vector<Befund> PapierePruefen(const Station& s) {
 
 Meldungen ZumBefund(Station& s, const Kataloge& k, const Papierort& ort) {
   if (std::holds_alternative<BeimBenutzer>(ort)) return BenutzerOeffnen(s, k);
+  if (s.fenster.benutzer) BenutzerVerbergen(s, k);  // modal: nothing can be mended beside them
   if (std::holds_alternative<ImLageplan>(ort)) return LageplanOeffnen(s, k);
   return std::holds_alternative<InZelle>(ort) ? DatenblattOeffnen(s, k) : OptionenOeffnen(s, k);
 }

@@ -61,6 +61,14 @@ TEST_F(HilfeImProgramm, F1OeffnetDenEintragJedesControls) {
           << control->objectName().toStdString();
     }
   }
+  // The tabs stand for the card in front.
+  programm.Befehlen(Befehl::OptionenZeigen);
+  auto& karten = Lauf::Ding<QTabWidget>(u"SSTab1"_s, u"frmOptions"_s);
+  for (const int nummer : {2100, 2105, 2112, 2119}) {
+    QTest::keyClick(karten.tabBar(), Qt::Key_F1);
+    EXPECT_EQ(Seite(), u"kontext-%1.html"_s.arg(nummer));
+    karten.setCurrentIndex(karten.currentIndex() + 1);
+  }
   // Without a number of its own a control has that of what surrounds it.
   QTest::keyClick(&Lauf::Ding<QWidget>(u"lblDaempfung"_s), Qt::Key_F1);
   EXPECT_EQ(Seite(), u"kontext-1001.html");

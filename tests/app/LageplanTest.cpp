@@ -174,6 +174,20 @@ TEST_F(Lageplanfenster, OhneMausGezeichnet) {
   EXPECT_EQ(Objekte().size(), 2U);
 }
 
+TEST_F(Lageplanfenster, HinweisNenntWasJetztGeht) {
+  const auto zusagen = [] { return Hinweis().contains(u"schließt den Umriß"_s); };
+  Werkzeug(1);
+  Klicken({0, 0});
+  EXPECT_FALSE(zusagen());
+  Klicken({10, 0});
+  EXPECT_TRUE(zusagen());
+  Taste(Qt::Key_Backspace);
+  EXPECT_FALSE(zusagen());
+  EXPECT_TRUE(Hinweis().contains(u"Rücktaste"_s));
+  Taste(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Hinweis(), QString());
+}
+
 TEST_F(Lageplanfenster, RueckgaengigNimmtZuerstWasGezeichnetWird) {
   Werkzeug(1);
   Klicken({0, 0});

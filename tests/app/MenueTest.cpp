@@ -146,6 +146,22 @@ TEST_F(Menuegang, TastenFindenAuchDenGrund) {
   datei.close();
 }
 
+TEST_F(Menuegang, AuchDerErsteEintragSagtWarum) {
+  const auto begruendet = [](const QString& grund) {
+    return QTest::qWaitFor([&] { return QToolTip::isVisible() && QToolTip::text().startsWith(grund); });
+  };
+  auto& bearbeiten = Ding<QMenu>(u"mnuBearbeiten"_s);
+  bearbeiten.actions().constFirst()->setEnabled(false);
+  bearbeiten.actions().constFirst()->setToolTip(u"Gerade nicht"_s);
+  Aktivieren(u"frmVesk"_s);
+  Taste(Qt::Key_B, Qt::AltModifier);
+  ASSERT_TRUE(bearbeiten.isVisible());
+  QFocusEvent verlassen(QEvent::FocusOut, Qt::PopupFocusReason);  // takes away what is shown too early
+  QCoreApplication::sendEvent(&programm.Hauptfenster(), &verlassen);
+  EXPECT_TRUE(begruendet(u"Gerade nicht"_s));
+  bearbeiten.close();
+}
+
 /// Tooltips of all windows with a text, window and control name before it.
 QStringList Tooltips() {
   QStringList texte;

@@ -54,10 +54,12 @@ TEST_F(PapiereTest, VorschauFolgtDerStationUndFuehrtZurStelle) {
   EXPECT_EQ(Offen().filter(u"Ort"_s).size(), 1) << Offen().join(u'|').toStdString();
   const QStringList hoehe = Offen().filter(u"Montagehöhe"_s);
   ASSERT_EQ(hoehe.size(), 1);
+  programm.Befehlen(Befehl::BenutzerZeigen);  // modal: it must not bar the place
   auto& liste = Ding<QListWidget>(u"lstOffen"_s, Vorschau);
   liste.setCurrentRow(static_cast<int>(Offen().indexOf(hoehe[0])));
   Q_EMIT liste.itemActivated(liste.currentItem());
   EXPECT_TRUE(QTest::qWaitForWindowActive(&Lauf::Fenster(u"frmDatenblatt"_s)));
+  EXPECT_FALSE(Sichtbar(u"frmUser"_s));
   EXPECT_EQ(Fokus(), Zellenname(1, 1));
   EXPECT_EQ(station.werte.Spalte, 0);
   Tippen(u"12"_s);

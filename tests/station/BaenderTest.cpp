@@ -143,6 +143,15 @@ TEST_F(EineStation, WasKopiertIstBrauchtKeinGleich) {
   EXPECT_EQ(NaechsterSchritt(s).text, "Berechnen: =");
 }
 
+TEST_F(EineStation, FehlenderGrenzwertWirdBegruendet) {
+  Eingeben("144");
+  for (const char* band : {"10 m", "6 m", "2 m", "3 cm"}) {
+    const Bandzeile zeile = Band(band);
+    EXPECT_EQ(zeile.texte[Feld::AusgabeHSM306] == "", zeile.hinweis.find("HSM 306") != std::string::npos)
+        << band << ": " << zeile.hinweis;
+  }
+}
+
 TEST_F(EineStation, WasNichtGehtStehtInWorten) {
   EXPECT_EQ(Band("20 m").hinweis, "Sendeleistung fehlt");
   Tun(BaenderKopieren, Baenderwahl().set());

@@ -9,6 +9,7 @@
 #include <QProxyStyle>
 #include <QSet>
 #include <QStyleOptionMenuItem>
+#include <QTimer>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -70,6 +71,15 @@ Fenstermenue::Fenstermenue(const QString& titel, QWidget* eltern) : QMenu(titel,
   setStyle(Gemeinsam());
   // Queued, because the first entry is reached before the menu is on the screen.
   connect(this, &QMenu::hovered, this, &Fenstermenue::Begruenden, Qt::QueuedConnection);
+}
+
+void Fenstermenue::showEvent(QShowEvent* ereignis) {
+  QMenu::showEvent(ereignis);
+  // A change of focus when the menu opens closes the tooltip of its first entry.
+  constexpr int Fokuswechsel = 100;  // ms
+  QTimer::singleShot(Fokuswechsel, this, [this] {
+    if (isVisible()) Begruenden();
+  });
 }
 
 /// Beside the entry: a tooltip is shown below the place that it is said to be of.

@@ -43,6 +43,7 @@ class Fenstermenue : public QMenu {
  protected:
   void initStyleOption(QStyleOptionMenuItem* option, const QAction* aktion) const override;
   void keyPressEvent(QKeyEvent* ereignis) override;
+  void showEvent(QShowEvent* ereignis) override;
   bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
  private:

@@ -1,27 +1,11 @@
 #include "ui/info/Hilfesystem.h"
 
-#include <QApplication>
-#include <QWindow>
-
+#include "ui/basis/Modalfolge.h"
 #include "ui/info/frmHilfe.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vesk {
-
-namespace {
-
-/// A modal window blocks all others but those that belong to it; the help must be readable beside it.
-void ZuModalemFenster(QWidget& hilfe) {
-  const QWidget* modal = QApplication::activeModalWidget();
-  hilfe.winId();  // the native window must exist to belong to another one
-  QWindow* zu = modal != nullptr ? modal->windowHandle() : nullptr;
-  if (hilfe.windowHandle()->transientParent() == zu) return;
-  hilfe.hide();
-  hilfe.windowHandle()->setTransientParent(zu);
-}
-
-}  // namespace
 
 Hilfesystem::Hilfesystem(const QString& verzeichnis, Meldungsboxen& boxen, Drucker& drucker)
     : buch_(verzeichnis), boxen_(boxen), drucker_(drucker) {}

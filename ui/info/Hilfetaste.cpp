@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTabWidget>
 #include <QVariant>
 #include <QWidget>
 
@@ -13,9 +14,12 @@ namespace vesk {
 
 namespace {
 
-/// Of the control or of the nearest one that it lies in; 0 if its window has no help.
+/// Of the control or of the nearest one that it lies in; 0 if its window has no help. Tabs stand for the page
+/// in front.
 int Hilfekontext(const QWidget& control) {
-  for (const QWidget* stelle = &control; stelle != nullptr; stelle = stelle->parentWidget()) {
+  const auto* karten = qobject_cast<const QTabWidget*>(control.parentWidget());
+  for (const QWidget* stelle = karten != nullptr ? karten->currentWidget() : &control; stelle != nullptr;
+       stelle = stelle->parentWidget()) {
     const int nummer = stelle->property(HilfekontextEigenschaft).toInt();
     if (nummer != 0 || stelle->isWindow()) return nummer;
   }

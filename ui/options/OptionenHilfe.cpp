@@ -1,6 +1,8 @@
 #include "ui/options/OptionenHilfe.h"
 
 #include <QRadioButton>
+#include <QTabWidget>
+#include <array>
 
 #include "ui/basis/Feldhilfe.h"
 
@@ -41,8 +43,11 @@ constexpr Feldhilfe Tooltips[] = {
 
 constexpr int ErsteNummer = 2100;
 
+/// Of each page as a whole, in the order of the tabs.
+constexpr std::array Kartennummern = {ErsteNummer, 2105, 2112, 2119};
+
 /// In the order of the tabs. A control that is not listed has the number of what it lies in: that of the
-/// frame, or the window's, which is the first one.
+/// frame, or of the page.
 constexpr Hilfenummer Hilfenummern[] = {
     {u"chkBetriebsart", ErsteNummer},
     {u"txtSelectedModes", 2101},
@@ -78,8 +83,11 @@ void OptionenTooltips(QWidget& fenster, bool an) {
   }
 }
 
-void OptionenHilfenummern(QWidget& fenster) {
+void OptionenHilfenummern(QWidget& fenster, const QTabWidget& karten) {
   fenster.setProperty(HilfekontextEigenschaft, ErsteNummer);
+  for (int i = 0; i < karten.count(); ++i) {
+    karten.widget(i)->setProperty(HilfekontextEigenschaft, Kartennummern.at(static_cast<std::size_t>(i)));
+  }
   HilfenummernSetzen(fenster, Hilfenummern);
 }
 

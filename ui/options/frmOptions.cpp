@@ -75,7 +75,7 @@ frmOptions::frmOptions(Ablauf& ablauf, const Kataloge& kataloge, Signalton& ton,
   fenster->setObjectName(u"mnuFenster"_s);
   connect(fenster, &QAction::triggered, this, [this] { ablauf_.Tun(OptionenVerbergen); });
 
-  OptionenHilfenummern(*this);
+  OptionenHilfenummern(*this, *SSTab1);
   Einpassen(*this);
 }
 

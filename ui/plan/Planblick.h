@@ -97,6 +97,7 @@ class Planblick : public QWidget {
   void ZugAufgeben();
   void EckeSetzen(Punkt punkt);
   void EckeZurueck();
+  void StrichZeigen();
   void Schliessen();
   void Anlegen(Planart art, const Umriss& punkte);
   void Eichen(double abstand);

@@ -27,6 +27,14 @@ bool ZeichnetUmriss(Planwerkzeug werkzeug) {
   return art && Artzeile(*art).umriss;
 }
 
+/// How what has been begun goes on.
+QString Strichhinweis(std::size_t ecken, bool umriss) {
+  if (ecken == 0) return {};
+  if (!umriss) return u"Klicken Sie zwei Punkte an und tippen Sie ihren Abstand in Metern."_s;
+  const QString zurueck = u"Rücktaste nimmt die letzte Ecke zurück, Esc gibt auf."_s;
+  return ecken == 1 ? zurueck : u"Enter oder Doppelklick schließt den Umriß, "_s + zurueck;
+}
+
 }  // namespace
 
 Artenwahl Planblick::SichtbareArten() const {
@@ -180,10 +188,11 @@ void Planblick::EckeSetzen(Punkt punkt) {
   if (!umriss && ecken.size() > 1) ecken.pop_back();  // the second place of the picture once more
   if (ecken.empty() || !Dasselbe(punkt, ecken.back())) ecken.push_back(punkt);
   strich_.zeiger = punkt;
-  Q_EMIT hinweis(umriss
-                     ? u"Enter oder Doppelklick schließt den Umriß, Rücktaste nimmt die letzte Ecke zurück, "
-                       u"Esc gibt auf."_s
-                     : u"Klicken Sie zwei Punkte an und tippen Sie ihren Abstand in Metern."_s);
+  StrichZeigen();
+}
+
+void Planblick::StrichZeigen() {
+  Q_EMIT hinweis(Strichhinweis(strich_.ecken.size(), ZeichnetUmriss(werkzeug_)));
   MassfeldZeigen();
   update();
 }
@@ -221,8 +230,7 @@ void Planblick::Aufgeben() {
 
 void Planblick::EckeZurueck() {
   if (!strich_.ecken.empty()) strich_.ecken.pop_back();
-  MassfeldZeigen();
-  update();
+  StrichZeigen();
 }
 
 void Planblick::WerkzeugNehmen(Planwerkzeug werkzeug) {

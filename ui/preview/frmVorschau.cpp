@@ -16,6 +16,7 @@
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Einpassen.h"
 #include "ui/basis/Feldhilfe.h"
+#include "ui/basis/Modalfolge.h"
 #include "ui/preview/Seitenblick.h"
 #include "ui/preview/Seitenliste.h"
 
@@ -82,7 +83,10 @@ void frmVorschau::Zeigen(const Station& s) {
     gezeigt_.reset();  // nobody waits for the pages of a closed window
     return pause_.stop();
   }
-  if (gezeigt_ && gezeigt_->fenster.vorschauRufe != s.fenster.vorschauRufe) activateWindow();
+  const bool gerufen = !gezeigt_ || gezeigt_->fenster.vorschauRufe != s.fenster.vorschauRufe;
+  // The personal data are modal: opened from there the papers belong to them, and to nobody after them.
+  if (gerufen || (gezeigt_->fenster.benutzer && !s.fenster.benutzer)) ZuModalemFenster(*this);
+  if (gerufen) activateWindow();
   const bool sofort = !gezeigt_ || gezeigt_->papiere != s.papiere;
   if (!gezeigt_ || gezeigt_->papiere.art != s.papiere.art) seite_ = 0;
   gezeigt_ = s;
