@@ -156,7 +156,9 @@ Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& dat
   }
   const fs::path wirklich = datei.empty() ? fs::path() : WirklicherPfad(datei);
   const bool dieselbe = !pfad_.empty() && wirklich == datei_;
-  if (dieselbe && inhalt == zuletzt_ && sperre_.Gilt(pfad_)) return Stand::Gesichert;
+  std::error_code egal;
+  const bool nochDa = dieselbe && sperre_.Gilt(pfad_) && fs::exists(pfad_, egal);
+  if (nochDa && inhalt == zuletzt_) return Stand::Gesichert;
   const std::string bytes = Bytes(wirklich, inhalt);
   const bool erneuert = dieselbe && Schreiben(pfad_, datei_, bytes, sperre_) == Ausgang::Geschrieben;
   if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return Stand::Gescheitert;
