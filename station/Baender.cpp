@@ -190,8 +190,8 @@ std::string Bandgrundlage(const Station& s, const Kataloge& k) {
     const int index = Kabelindex(s, k);
     if (!MitLaenge(s))
       return text + "Verluste " + oderNull(s.werte.DaempfungText) + " dB auf allen Bändern, wie eingetippt.";
-    const std::string name = index < 0 ? "ohne Auswahl" : k.kabel.liste.at(static_cast<std::size_t>(index));
-    text += "Kabel " + name + ", " + satz.KabelLaenge + " m: ";
+    if (index < 0) return text + "Kein Kabel gewählt, " + satz.KabelLaenge + " m: Verluste unbekannt.";
+    text += "Kabel " + k.kabel.liste.at(static_cast<std::size_t>(index)) + ", " + satz.KabelLaenge + " m: ";
     if (AnderesKabelGewaehlt(s, k)) return text + oderNull(satz.D100) + " dB je 100 m auf allen Bändern.";
     return text + "Verluste je Band aus dem Katalog.";
   } catch (const Laufzeitfehler& fehler) {

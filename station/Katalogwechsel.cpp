@@ -52,8 +52,9 @@ Meldungen KatalogeGewechselt(Station& s, const Kataloge& vorher, const Kataloge&
   if (fehlend.empty()) return {};
   std::string namen;
   for (const std::string& name : fehlend) namen += (namen.empty() ? "" : ", ") + name;
-  return {{Hinweis{"Katalog übernehmen", "Im neuen Katalog fehlen Kabel dieser Station: " + namen +
-                                             "\nIhre Verluste bleiben, wie sie sind."}}};
+  return {{Hinweis{"Katalog übernehmen",
+                   "Im neuen Katalog fehlen Kabel dieser Station: " + namen +
+                       "\nIhre Verluste bleiben, wie sie sind. Gewählt ist dort kein Kabel mehr."}}};
 }
 
 }  // namespace vesk

@@ -1,3 +1,4 @@
+#include "station/Baender.h"
 #include "station/Katalogwechsel.h"
 #include "tests/station/Tisch.h"
 
@@ -39,7 +40,8 @@ TEST_F(Katalogwechsel, KabelWerdenAnIhremNamenWiedergefunden) {
   anders.kabel.liste[0] = "ZZ";
   EXPECT_EQ(Wechsel(anders),
             "keins keins veraltet: Im neuen Katalog fehlen Kabel dieser Station: RG58\n"
-            "Ihre Verluste bleiben, wie sie sind.");
+            "Ihre Verluste bleiben, wie sie sind. Gewählt ist dort kein Kabel mehr.");
+  EXPECT_TRUE(Bandgrundlage(s, k).ends_with("Kein Kabel gewählt, 20 m: Verluste unbekannt."));
 }
 
 TEST_F(Katalogwechsel, AnderesKabelUndEinesOhneLaenge) {
