@@ -151,8 +151,7 @@ QString Eingabezeile(const Station& s) {
   const auto oderNull = [](const std::string& text) { return text.empty() ? u"0"_s : Text(text); };
   const Rechenwerte& w = s.werte;
   return u"%1 MHz%2, Gewinn %3 dBi, Verluste %4 dB, Winkeldämpfung %5 dB, Faktor %6"_s.arg(
-      Text(w.QRGText),
-      s.einstellungen.AFu && AmateurbandVon(Zahl(w.QRGText)) != nullptr ? u" (AFu-Band)"_s : QString(),
+      Text(w.QRGText), s.einstellungen.AFu && Hauptband(s) != nullptr ? u" (AFu-Band)"_s : QString(),
       oderNull(w.GewinnText), oderNull(w.DaempfungText), oderNull(w.WinkelDaempfungText),
       Zahltext(double{Faktor(w)}));
 }

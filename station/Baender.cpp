@@ -19,11 +19,7 @@ constexpr const char* Titel = "Alle Bänder";
 
 /// The lowest of the band's own frequencies, where cables lose least.
 std::string Bandfrequenz(const Station& s, const Amateurband& band) {
-  try {
-    if (AmateurbandVon(Zahl(s.werte.QRGText)) == &band) return s.werte.QRGText;
-  } catch (const Laufzeitfehler&) {
-    // beyond every band
-  }
+  if (Hauptband(s) == &band) return s.werte.QRGText;
   std::array<char, 32> puffer{};
   const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), band.auswertung.lambda,
                                   std::chars_format::fixed);
@@ -159,6 +155,12 @@ void BlattUebernehmen(Station& s, const Station& von) {
 }
 
 }  // namespace
+
+const Amateurband* Hauptband(const Station& s) try {
+  return AmateurbandVon(Zahl(s.werte.QRGText));
+} catch (const Laufzeitfehler&) {
+  return nullptr;
+}
 
 std::vector<Bandzeile> AlleBaender(const Station& s, const Kataloge& k) {
   const int antenne = GenommeneAntenne(s, k);

@@ -21,6 +21,9 @@ struct Bandzeile {
   bool rechenbar = false;  ///< the figures hold and may be copied
 };
 
+/// Of the main window's frequency; none: it is in no band, or no number.
+const Amateurband* Hauptband(const Station& s);
+
 /// A row for each band of the band table. The gain follows the band when it is that of an antenna taken from
 /// the catalogue, the loss when a cable has a length; what was typed by hand holds on all bands.
 std::vector<Bandzeile> AlleBaender(const Station& s, const Kataloge& k);

@@ -44,6 +44,10 @@ TEST_F(Schaubildfenster, BaenderAnkreuzenUndKopierenMitTasten) {
   tabelle.setFocus();
   Taste(Qt::Key_Escape);
   EXPECT_FALSE(Sichtbar(fenster));
+  station.werte.QRGText = std::string(45, '9');
+  programm.Befehlen(Befehl::DiagrammeZeigen);
+  programm.Befehlen(Befehl::BaenderZeigen);
+  EXPECT_TRUE(Sichtbar(fenster));
 }
 
 TEST_F(Schaubildfenster, DiagrammeWaehlenUndDrucken) {

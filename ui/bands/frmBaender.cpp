@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "engine/Bandlogik.h"
-#include "engine/Zahlen.h"
 #include "ui/bands/Bandtexte.h"
 #include "ui/basis/Ablauf.h"
 #include "ui/basis/Anzeige.h"
@@ -238,7 +237,7 @@ void frmBaender::HinweisZeigen() {
 }
 
 void frmBaender::BandAufsuchen(const Station& s) {
-  const Amateurband* band = AmateurbandVon(Zahl(s.werte.QRGText));
+  const Amateurband* band = Hauptband(s);
   const auto zeile =
       std::find_if(zeilen_.begin(), zeilen_.end(), [&](const Bandzeile& z) { return z.band == band; });
   if (zeile != zeilen_.end()) tblBaender->setCurrentCell(static_cast<int>(zeile - zeilen_.begin()), Band);
