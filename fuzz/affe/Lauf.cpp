@@ -7,7 +7,10 @@
 #include "fuzz/affe/Affe.h"
 #include "fuzz/affe/Buehne.h"
 #include "fuzz/affe/Pruefung.h"
+#include "persistence/Dateien.h"
+#include "persistence/Dateigrenzen.h"
 #include "persistence/Lageplandatei.h"
+#include "persistence/Pfade.h"
 #include "persistence/UserDatei.h"
 #include "station/Lageplanhandlungen.h"
 
@@ -22,6 +25,16 @@ using Nachlass = std::optional<std::string>;
 
 std::string Daten(const Station& s) {
   return UserDateiSchreiben(s) + LageplanBytes(s.lageplan);
+}
+
+/// Whether the station's own files hold all of it: a file that was only opened needs no copy.
+bool InDenDateien(const Station& s) {
+  const std::filesystem::path datei = PfadAusUtf8(s.Arbeitsverzeichnis) / PfadAusUtf8(s.UserDatei);
+  const Gelesen plan = DateiLesen(Lageplanpfad(datei), grenzen::Lageplan);
+  const bool planDort =
+      plan.status == Lesestatus::Fehlt ? LageplanLeer(s.lageplan) : plan.bytes == LageplanBytes(s.lageplan);
+  return !s.neuesRufzeichen && planDort &&
+         DateiLesen(datei, grenzen::UserDatei).bytes == UserDateiSchreiben(s);
 }
 
 /// Somebody draws something.
@@ -61,7 +74,7 @@ QString EinProgramm(Zufall& zufall, Ordner& ordner, Buehne& buehne, int ereignis
       Schreiben(tod ? u"Tod"_s : u"Ende"_s);
       if (tod) {
         programm.RettungSichern();
-        if (station.UserGeaendert) nachlass = Daten(station);
+        if (station.UserGeaendert && !InDenDateien(station)) nachlass = Daten(station);
         return {};
       }
       programm.Hauptfenster().close();
