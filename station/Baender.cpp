@@ -136,10 +136,11 @@ void ZeileRechnen(Bandzeile& zeile, Station& s, const Kataloge& k, int antenne) 
   if (zeile.zahlen.fehler) throw Laufzeitfehler(*zeile.zahlen.fehler);
   zeile.rechenbar = true;
   zeile.texte = Ausgabetexte(zeile.zahlen, '.');
-  zeile.hinweis = Hinweise(zeile.zahlen, nullptr);
   if (MitLaenge(s) && s.Datenblattspalten[0].Gesamtdaempfung.empty()) {
-    Anreihen(zeile.hinweis, "Kabelverlust unbekannt, mit 0 dB gerechnet");
+    zeile.hinweis = "Kabelverlust unbekannt, mit 0 dB gerechnet";
   }
+  const std::string weitere = Hinweise(zeile.zahlen, nullptr);
+  if (!weitere.empty()) Anreihen(zeile.hinweis, weitere);
 }
 
 Meldungen EineMeldung(const std::string& text) {
