@@ -108,9 +108,12 @@ Vergleich Vergleichen(const fs::path& kopie, const std::string& text, const fs::
 /// Leaves in a find what the user needs to be asked about, and removes one that is nothing else.
 bool Hinfaellig(Rettung::Fund& fund, std::vector<fs::path>& beiseite) {
   Rettung::Inhalt& inhalt = fund.inhalt;
-  const Vergleich user =
-      Vergleichen(fund.pfad, inhalt.user, fund.datei, grenzen::UserDatei, IstUserDatei, beiseite);
-  if (user == Vergleich::Gesichert) inhalt.user.clear();
+  Vergleich user = Vergleich::Gesichert;
+  const bool nurTabelle = inhalt.user.empty() && !inhalt.winkel.empty();
+  if (!nurTabelle) {
+    user = Vergleichen(fund.pfad, inhalt.user, fund.datei, grenzen::UserDatei, IstUserDatei, beiseite);
+    if (user == Vergleich::Gesichert) inhalt.user.clear();
+  }
   Vergleich plan = Vergleich::Gesichert;
   if (!inhalt.plan.empty() && !fund.datei.empty()) {
     plan = Vergleichen(fund.pfad, inhalt.plan, Lageplanpfad(fund.datei), grenzen::Lageplan, IstLageplan,
@@ -149,10 +152,13 @@ Ausgang Schreiben(const fs::path& pfad, const fs::path& vorbild, const std::stri
 
 }  // namespace
 
-Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, const Inhalt& inhalt) {
-  if (inhalt.user == sicher_ && inhalt.winkel.empty() && inhalt.plan.empty()) {
-    Aufgeben();
-    return Stand::Unnoetig;
+Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, Inhalt inhalt) {
+  if (inhalt.user == sicher_ && inhalt.plan.empty()) {
+    if (inhalt.winkel.empty()) {
+      Aufgeben();
+      return Stand::Unnoetig;
+    }
+    inhalt.user.clear();
   }
   const fs::path wirklich = datei.empty() ? fs::path() : WirklicherPfad(datei);
   const bool dieselbe = !pfad_.empty() && wirklich == datei_;
@@ -162,7 +168,7 @@ Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& dat
   const std::string bytes = Bytes(wirklich, inhalt);
   const bool erneuert = dieselbe && Schreiben(pfad_, datei_, bytes, sperre_) == Ausgang::Geschrieben;
   if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return Stand::Gescheitert;
-  zuletzt_ = inhalt;
+  zuletzt_ = std::move(inhalt);
   return Stand::Gesichert;
 }
 

@@ -13,7 +13,7 @@ namespace vesk {
 class Rettung {
  public:
   struct Inhalt {
-    std::string user;      ///< bytes of the user's file
+    std::string user;      ///< bytes of the user's file; empty: only the table is not saved
     std::string winkel{};  ///< bytes of an angle file; empty: that table is saved
     std::filesystem::path winkeldatei{};
     std::string plan{};  ///< bytes of the plan's file; empty: that plan is saved
@@ -29,8 +29,7 @@ class Rettung {
   void Gesichert(std::string user) { sicher_ = std::move(user); }
   enum class Stand { Unnoetig, Gesichert, Gescheitert };
   /// Keeps for the user's file `datei` what is not safe; when all is, no copy is needed.
-  Stand Sichern(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei,
-                const Inhalt& inhalt);
+  Stand Sichern(const std::filesystem::path& verzeichnis, const std::filesystem::path& datei, Inhalt inhalt);
   /// What was found is worked on again; its copy stays until it is safe or has been renewed.
   void Fortsetzen(const Fund& fund);
   /// Nobody will miss anything.

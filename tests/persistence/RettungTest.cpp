@@ -150,6 +150,11 @@ TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
     WinkelGetippt(s, lauf.kataloge, Winkelfeld::Antenne, "Quad");
     WinkeldaempfungGetippt(s, lauf.kataloge, 3, "7.5");
     lauf.ablauf.RettungSichern();
+    Lauf naechster(anderswo.pfad);
+    Anlegen(user, MusterMit("von Hand"));
+    fs::copy_file(Kopien().at(0), anderswo / ".nach-absturz.rettung");
+    Anbieten(naechster, {{"Es gibt eine nicht gespeicherte Winkeltabelle.\nSoll sie", Antwort::Nein}});
+    Anlegen(user, MusterMit("eins"));
     lauf.Speichern("gesichert");
     EXPECT_EQ(Kopien().size(), 1U) << "the table is still in no file";
     lauf.fragen.Erwarten("Vesk", "Die Winkeltabelle wurde geändert und nicht gespeichert.", Antwort::Nein);
