@@ -7,12 +7,11 @@
 #include <boost/geometry/algorithms/covered_by.hpp>
 #include <boost/geometry/algorithms/difference.hpp>
 #include <boost/geometry/algorithms/distance.hpp>
+#include <boost/geometry/algorithms/for_each.hpp>
 #include <boost/geometry/algorithms/intersection.hpp>
 #include <boost/geometry/algorithms/is_valid.hpp>
 #include <boost/geometry/algorithms/point_on_surface.hpp>
 #include <boost/geometry/algorithms/union.hpp>
-#include <boost/geometry/geometries/linestring.hpp>
-#include <boost/geometry/geometries/multi_linestring.hpp>
 #include <boost/geometry/geometries/multi_polygon.hpp>
 #include <boost/geometry/geometries/point_xy.hpp>
 #include <boost/geometry/geometries/polygon.hpp>
@@ -27,7 +26,6 @@ namespace bg = boost::geometry;
 using Ort = bg::model::d2::point_xy<double>;
 using Polygon = bg::model::polygon<Ort>;
 using Polygonmenge = bg::model::multi_polygon<Polygon>;
-using Linie = bg::model::linestring<Ort>;
 
 Polygon AlsPolygon(const Umriss& umriss) {
   Polygon polygon;
@@ -61,7 +59,10 @@ std::vector<Punkt> EckenUndInneres(const Polygonmenge& menge) {
 /// To the nearest edge of one ring.
 template <typename Ring>
 double Rand(const Ring& ring, const Ort& ort) {
-  return bg::distance(ort, Linie(ring.begin(), ring.end()));
+  double abstand = std::numeric_limits<double>::infinity();
+  bg::for_each_segment(
+      ring, [&](const auto& kante) { abstand = std::min(abstand, double{bg::distance(ort, kante)}); });
+  return abstand;
 }
 
 }  // namespace
@@ -118,8 +119,7 @@ bool Gebiet::Enthaelt(Punkt punkt) const {
 }
 
 double Gebiet::Abstand(Punkt punkt) const {
-  return leer() ? std::numeric_limits<double>::infinity()
-                : double{bg::distance(Ort(punkt.x, punkt.y), polygone_->menge)};
+  return Enthaelt(punkt) ? 0 : Rand(punkt);
 }
 
 double Gebiet::Rand(Punkt punkt) const {
