@@ -148,7 +148,9 @@ std::string Gekuerzt(std::string_view eingabe) {
   while (!eingabe.empty()) {
     if (++anzahl > Hoechstens) return text.substr(0, gezeigt) + "...";
     const std::size_t laenge = Zeichenlaenge(eingabe);
-    text += laenge == 0 ? "\uFFFD" : eingabe.substr(0, laenge);
+    const auto erstes = static_cast<unsigned char>(eingabe.front());
+    const bool zeigbar = laenge > 0 && (erstes >= 0x20 || erstes == '\t') && erstes != 0x7F;
+    text += zeigbar ? eingabe.substr(0, laenge) : "\uFFFD";
     eingabe.remove_prefix(std::max<std::size_t>(laenge, 1));
     if (anzahl == Gezeigt) gezeigt = text.size();
   }

@@ -33,7 +33,8 @@ Optionen OptionenLesen(std::span<const Option> erlaubt, std::span<const std::str
 /// Empty when it was not given.
 std::string Wert(const Optionen& optionen, std::string_view name);
 
-/// What was typed, for a message: valid UTF-8 of at most 40 characters.
+/// What was typed, for a message: valid UTF-8 of at most 40 characters, without those that control a
+/// terminal.
 std::string Gekuerzt(std::string_view eingabe);
 
 /// What a command reads from and writes to.

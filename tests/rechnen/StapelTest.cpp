@@ -152,6 +152,8 @@ TEST(Stapel, ZeilenUndTrennzeichen) {
        "2:qrg: „\uFFFD\uFFFD\uFFFD“ ist keine Zahl. "
        "3:qrg: „ä\uFFFD\uFFFD\uFFFD“ ist keine Zahl.",
        1},
+      {"", std::string("qrg;pwr\n14\0002;1\n7\033[31m;1\n", 24),
+       "2:qrg: „14\uFFFD2“ ist keine Zahl. 3:qrg: „7\uFFFD[31m“ ist keine Zahl.", 1},
       {"", "qrg;pwr\n" + std::string(50, 'x') + ";1\n",
        "2:qrg: „" + std::string(37, 'x') + "...“ ist keine Zahl.", 1},
   };
