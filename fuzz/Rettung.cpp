@@ -114,8 +114,8 @@ void RundreisePruefen(Vorrat& vorrat, const Ordner& ordner) {
   const std::vector<Rettung::Fund> funde = Rettung::Suchen(ordner.Pfad()).funde;
   const bool nichts = inhalt.user == "gesichert" && inhalt.winkel.empty() && inhalt.plan.empty();
   Pruefen(funde.size() == (nichts ? 0 : 1));
-  // Beside a table alone nothing of the user's file is kept that stands in it.
-  if (inhalt.user == "gesichert" && inhalt.plan.empty()) inhalt.user.clear();
+  // Nothing of the user's file is kept that stands in it.
+  if (inhalt.user == "gesichert" && !datei.empty()) inhalt.user.clear();
   for (const Rettung::Fund& fund : funde) Pruefen(fund.datei == datei && fund.inhalt == inhalt);
 }
 

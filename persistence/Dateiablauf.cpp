@@ -93,8 +93,10 @@ void Dateiablauf::Einlesen(bool gewaehlt) {
   } else {
     NichtGelesen(datei);
   }
-  gespeichert_ = BlattJetzt();
-  rettung_.Gesichert(UserDateiSchreiben(station_));
+  // Data that only get the name of a file that is missing stand in none.
+  const bool behalten = gewaehlt && station_.ohneDatei;
+  gespeichert_ = behalten ? Blatt() : BlattJetzt();
+  rettung_.Gesichert(behalten ? std::string() : UserDateiSchreiben(station_));
   RettungErneuern();
 }
 

@@ -109,8 +109,8 @@ Vergleich Vergleichen(const fs::path& kopie, const std::string& text, const fs::
 bool Hinfaellig(Rettung::Fund& fund, std::vector<fs::path>& beiseite) {
   Rettung::Inhalt& inhalt = fund.inhalt;
   Vergleich user = Vergleich::Gesichert;
-  const bool nurTabelle = inhalt.user.empty() && !inhalt.winkel.empty();
-  if (!nurTabelle) {
+  const bool ohneUser = inhalt.user.empty() && !(inhalt.winkel.empty() && inhalt.plan.empty());
+  if (!ohneUser) {
     user = Vergleichen(fund.pfad, inhalt.user, fund.datei, grenzen::UserDatei, IstUserDatei, beiseite);
     if (user == Vergleich::Gesichert) inhalt.user.clear();
   }
@@ -153,19 +153,18 @@ Ausgang Schreiben(const fs::path& pfad, const fs::path& vorbild, const std::stri
 }  // namespace
 
 Rettung::Stand Rettung::Sichern(const fs::path& verzeichnis, const fs::path& datei, Inhalt inhalt) {
-  if (inhalt.user == sicher_ && inhalt.plan.empty()) {
-    if (inhalt.winkel.empty()) {
-      Aufgeben();
-      return Stand::Unnoetig;
-    }
-    inhalt.user.clear();
+  if (inhalt.user == sicher_ && inhalt.winkel.empty() && inhalt.plan.empty()) {
+    Aufgeben();
+    return Stand::Unnoetig;
   }
+  if (inhalt.user == sicher_ && !datei.empty()) inhalt.user.clear();
   const fs::path wirklich = datei.empty() ? fs::path() : WirklicherPfad(datei);
   const bool dieselbe = !pfad_.empty() && wirklich == datei_;
   std::error_code egal;
   const bool nochDa = dieselbe && sperre_.Gilt(pfad_) && fs::exists(pfad_, egal);
   if (nochDa && inhalt == zuletzt_) return Stand::Gesichert;
   const std::string bytes = Bytes(wirklich, inhalt);
+  if (bytes.size() > grenzen::Rettung) return Stand::Gescheitert;
   const bool erneuert = dieselbe && Schreiben(pfad_, datei_, bytes, sperre_) == Ausgang::Geschrieben;
   if (!erneuert && !Anlegen(verzeichnis, wirklich, bytes)) return Stand::Gescheitert;
   zuletzt_ = std::move(inhalt);

@@ -13,7 +13,7 @@ namespace vesk {
 class Rettung {
  public:
   struct Inhalt {
-    std::string user;      ///< bytes of the user's file; empty: only the table is not saved
+    std::string user;      ///< bytes of the user's file; empty: that is saved
     std::string winkel{};  ///< bytes of an angle file; empty: that table is saved
     std::filesystem::path winkeldatei{};
     std::string plan{};  ///< bytes of the plan's file; empty: that plan is saved

@@ -141,6 +141,35 @@ TEST_F(RettungTest, DieAlteKopieGehtErstNachDerNeuen) {
   EXPECT_EQ(Kopien().size(), 1U) << "somebody has tidied up";
 }
 
+TEST_F(RettungTest, DatenDieNurEinenNamenBekommenStehenInKeinerDatei) {
+  Anlegen(anderswo / "dl2.dat", MusterMit("dort"));
+  {
+    Lauf lauf(ordner.pfad);
+    lauf.Neu();
+    lauf.Aendern("getippt");
+    lauf.fragen.Erwarten("Vesk", "Trotzdem eine andere Datei laden?", Antwort::Ja);
+    lauf.fragen.Erwarten("User Datei laden", "Soll sie dorthin kopiert werden?", Antwort::Nein);
+    lauf.Laden(anderswo / "dl2.dat");
+    lauf.ablauf.RettungSichern();
+  }
+  Lauf lauf(ordner.pfad);
+  Anbieten(lauf, {{"ungesicherte Änderungen an dl2.dat", Antwort::Ja}});
+  EXPECT_EQ(lauf.station.benutzer.Name, "getippt");
+}
+
+TEST_F(RettungTest, NurWasFehltWirdZurueckgeholt) {
+  {
+    Lauf lauf(ordner.pfad);
+    lauf.station.lageplan.nord = 5;
+    lauf.station.UserGeaendert = true;
+    lauf.ablauf.RettungSichern();
+  }
+  Anlegen(user, MusterMit("von Hand"));
+  Lauf lauf(ordner.pfad);
+  Anbieten(lauf, {{"ungesicherte Änderungen am Lageplan zu user.dat", Antwort::Ja}});
+  EXPECT_TRUE(lauf.station.benutzer.Name == "von Hand" && lauf.station.lageplan.nord == 5);
+}
+
 TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
   const fs::path datei = ordner / "h-b.ang";
   {
