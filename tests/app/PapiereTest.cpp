@@ -110,6 +110,10 @@ TEST_F(PapiereTest, PdfEntstehtGanzOderGarNicht) {
   buehne.fortschritt.abbruchBei = 1000;
   buehne.boxen.Erwarten("Vesk - Fehlermeldung", "konnte nicht gespeichert werden");
   Sichern(filePath(u"fehlt/Papiere.pdf"_s));
+  const QString offen = filePath(u"user.dat"_s);
+  buehne.boxen.Erwarten("Vesk - Fehlermeldung", "In user.dat stehen die Daten der Station.");
+  Sichern(offen);
+  EXPECT_FALSE(Inhalt(offen).startsWith("%PDF-"));
   EXPECT_EQ(buehne.speicher.werte.value({u"Unterlagen"_s, u"Verzeichnis"_s}), path());
   Menue(u"mnuPapiereDrucken"_s, Vorschau);
   EXPECT_EQ(buehne.papier.seiten, Ding<QListWidget>(u"lstSeiten"_s, Vorschau).count());
@@ -142,6 +146,7 @@ TEST_F(PapiereTest, WinkeldiagrammNurMitTabelleUndImGewaehltenMassstab) {
   Tippen(u"egal"_s);
   Taste(Qt::Key_Return);
   EXPECT_EQ(massstab.currentText(), u"passend");
+  Tippen(u"1:50"_s);  // the window goes with the field in use
 }
 
 }  // namespace

@@ -76,6 +76,12 @@ frmVorschau::frmVorschau(Ablauf& ablauf, const Kataloge& kataloge, QWidget* elte
   rolSeite->setFocus();
 }
 
+/// A field in use loses the focus when its window goes; that is no entry.
+frmVorschau::~frmVorschau() {
+  cboMassstab->lineEdit()->disconnect(this);
+  txtSeite->disconnect(this);
+}
+
 void frmVorschau::Zeigen(const Station& s) {
   if (gezeigt_ == s) return;
   TooltipsSetzen(*this, Tooltips, s.einstellungen.ToolTips);

@@ -29,6 +29,7 @@ class frmVorschau : public QMainWindow {
   static constexpr QStringView Passend = u"passend";
 
   frmVorschau(Ablauf& ablauf, const Kataloge& kataloge, QWidget* eltern = nullptr);
+  ~frmVorschau() override;
 
   void Zeigen(const Station& s);
 
