@@ -74,7 +74,7 @@ void Programm::Befehlen(Befehl befehl) {
     case Befehl::HintergrundWaehlen:
       return Tun([this](Station& s, const Kataloge& k) { return vesk::HintergrundWaehlen(s, k, *this); });
     case Befehl::PdfSpeichern:
-      return PdfSpeichern(Papiere(), plattform_);
+      return PdfSpeichern(Papiere(), *this, plattform_);
     case Befehl::PapiereDrucken:
       return PapiereDrucken(Papiere(), plattform_);
     case Befehl::DruckerEinrichten:

@@ -1,12 +1,12 @@
 #include "app/Papierablauf.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QStandardPaths>
 #include <stdexcept>
 
 #include "app/Pfadtext.h"
 #include "persistence/Dateien.h"
+#include "persistence/Rueckfragen.h"
 #include "platform/Plattform.h"
 #include "print/Pdf.h"
 
@@ -32,15 +32,15 @@ QString Dateiname(const Mappe& mappe) {
 
 }  // namespace
 
-void PdfSpeichern(const Mappe& mappe, Plattform& plattform) {
+void PdfSpeichern(const Mappe& mappe, Rueckfragen& rueckfragen, Plattform& plattform) {
   const QString abschnitt = u"Unterlagen"_s;
   const QString schluessel = u"Verzeichnis"_s;
   QString verzeichnis = plattform.speicher.Lesen(abschnitt, schluessel).value_or(QString());
   if (verzeichnis.isEmpty() || !QDir(verzeichnis).exists()) {
     verzeichnis = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   }
-  const std::optional<QString> ziel = plattform.dialoge.Speichern(
-      {u"PDF speichern"_s, u"PDF-Dokumente (*.pdf)"_s, u"pdf"_s, verzeichnis, Dateiname(mappe)});
+  const auto ziel = rueckfragen.ZumSpeichern({"PDF speichern", "PDF-Dokumente (*.pdf)", "pdf",
+                                              AlsPfad(verzeichnis), Dateiname(mappe).toStdString()});
   if (!ziel) return;
   QByteArray pdf;
   try {
@@ -49,18 +49,18 @@ void PdfSpeichern(const Mappe& mappe, Plattform& plattform) {
     plattform.boxen.Zeigen(Fehlermeldung(grund.what()));
   }
   if (pdf.isEmpty()) return;
-  const std::string name = PfadZumZeigen(AlsPfad(*ziel));
-  if (const Fehlergrund grund = DateiSchreiben(AlsPfad(*ziel), pdf.toStdString())) {
+  const std::string name = PfadZumZeigen(*ziel);
+  if (const Fehlergrund grund = DateiSchreiben(*ziel, pdf.toStdString())) {
     plattform.boxen.Zeigen(
         Fehlermeldung("Die Datei " + name + " konnte nicht gespeichert werden.\n" + *grund));
     return;
   }
-  plattform.speicher.Schreiben(abschnitt, schluessel, QFileInfo(*ziel).absolutePath());
+  plattform.speicher.Schreiben(abschnitt, schluessel, AlsText(ziel->parent_path()));
   const Antwort antwort = plattform.boxen.Zeigen(
       MitHilfe({"PDF speichern", "Gespeichert:\n" + name + "\n\nMöchten Sie die Datei jetzt ansehen?",
                 Knoepfe::JaNein, Symbol::Frage},
                HilfePapiere));
-  if (antwort == Antwort::Ja && !plattform.betrachter.Oeffnen(*ziel)) {
+  if (antwort == Antwort::Ja && !plattform.betrachter.Oeffnen(AlsText(*ziel))) {
     plattform.boxen.Zeigen(Fehlermeldung("Ihr System hat kein Programm, das PDF-Dateien zeigt."));
   }
 }

@@ -171,6 +171,7 @@ bool Dateiablauf::Brauchbar(const fs::path& pfad, const std::string& folge, bool
 void Dateiablauf::UserLaden() {
   const Vorgang vorgang(*this);
   if (!vorgang) return;
+  RettungErneuern();  // the dialog may stand for long
   if (const auto gewaehlt = rueckfragen_.ZumOeffnen(Wahl("User Datei laden", {}))) Wechseln(*gewaehlt);
 }
 

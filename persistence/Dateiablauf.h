@@ -45,6 +45,9 @@ class Dateiablauf {
   bool Beenden();
   /// Every few seconds: keeps what is not saved yet for the case of a crash.
   Rettung::Stand RettungSichern();
+  /// Why nothing else than the station's data may be saved to `pfad`; `endung`: of the kind of file, without
+  /// a dot.
+  Fehlergrund WarumVergeben(const std::filesystem::path& pfad, std::string_view endung) const;
 
  private:
   class Vorgang;

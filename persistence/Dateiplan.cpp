@@ -72,8 +72,10 @@ Fehlergrund Dateiablauf::BildortAnpassen(const fs::path& plan, const fs::path& v
 
 /// Writes the plan if it has changed or goes with another file from now on.
 bool Dateiablauf::PlanSchreiben() {
-  if (PlanGesichert()) return true;
   const fs::path pfad = Lageplanpfad(Pfad());
+  std::error_code egal;
+  const bool dort = LageplanLeer(station_.lageplan) || fs::exists(pfad, egal);
+  if (PlanGesichert() && dort) return true;
   BildortUmrechnen(station_.lageplan, planpfad_.parent_path(), pfad.parent_path());
   const Gelesen vorher = DateiLesen(pfad, grenzen::Lageplan);
   const std::string bytes = LageplanBytes(station_.lageplan);

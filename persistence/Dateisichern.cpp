@@ -104,6 +104,7 @@ void Dateiablauf::EingabenAbschliessen() {
 
 bool Dateiablauf::SpeichernUnter() {
   EingabenAbschliessen();
+  RettungErneuern();  // the dialog may stand for long
   const std::string& rufzeichen = station_.benutzer.Rufzeichen;
   const std::string eigener = rufzeichen.empty() ? "" : Dateiname(rufzeichen);
   const auto pfad = rueckfragen_.ZumSpeichern(
@@ -124,6 +125,14 @@ bool Dateiablauf::SpeichernUnter() {
   DateiWechseln(alterPfad);
   user_.alteFassungNoetig = alteFassung;
   return false;
+}
+
+Fehlergrund Dateiablauf::WarumVergeben(const fs::path& pfad, std::string_view endung) const {
+  const fs::path wirklich = WirklicherPfad(pfad);
+  const bool user = endung != "dat" && wirklich == WirklicherPfad(Pfad());
+  if (!user && wirklich != WirklicherPfad(planpfad_)) return std::nullopt;
+  return "In " + PfadAlsUtf8(pfad.filename()) + (user ? " stehen die Daten" : " steht der Lageplan") +
+         " der Station.\nBitte einen anderen Namen wählen.";
 }
 
 bool Dateiablauf::UserSchreiben(bool auchFremdes) {

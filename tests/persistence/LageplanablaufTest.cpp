@@ -43,6 +43,9 @@ TEST_F(LageplanablaufTest, EineDateiNurFuerEinenPlan) {
   const auto vorher = fs::last_write_time(plan);
   lauf.Speichern("nur die Daten");
   EXPECT_EQ(fs::last_write_time(plan), vorher);
+  fs::remove(plan);
+  lauf.Speichern("der Plan ist verschwunden");
+  EXPECT_EQ(Stand(plan), "a");
   Zeichnen(lauf, "");
   EXPECT_TRUE(lauf.ablauf.Beenden());
   EXPECT_EQ(Stand(plan), "") << "emptied, not left as it was";
