@@ -59,7 +59,7 @@ void Dateiablauf::Zurueckholen(const Rettung::Fund& fund) {
     station_.winkel.datei = PfadAlsUtf8(fund.inhalt.winkeldatei);
     WinkelZeigen(station_, WinkelLesen(fund.inhalt.winkel));
     station_.winkel.dateiGelesen = false;
-    station_.winkel.bearbeitet = true;
+    station_.winkel.bearbeitet = station_.winkel.kopfGetippt = true;
   }
   rettung_.Fortsetzen(fund);
 }

@@ -53,7 +53,7 @@ void Winkelablauf::DateiNennen(const fs::path& pfad, bool vorhanden) {
   seite.datei = PfadAlsUtf8(pfad);
   seite.herkunft.clear();
   seite.dateiGelesen = vorhanden;
-  seite.bearbeitet = false;
+  seite.bearbeitet = seite.kopfGetippt = false;
 }
 
 // ---------------------------------------------------------------------------------------------- reading
@@ -125,7 +125,9 @@ void Winkelablauf::Schreiben(const fs::path& pfad, bool gefragt) {
     Fehler(pfad, "gespeichert",
            "Eine Winkeldatei kann diese Zeichen im Namen der Antenne nicht aufnehmen: " +
                Anfang(fremd, grenzen::Meldungswort));
-  } else if (Ersetzen(pfad, WinkelSchreiben(daten), gefragt)) {
+  } else if (const std::string bytes = WinkelSchreiben(daten); Ersetzen(pfad, bytes, gefragt)) {
+    // Without quotes and brackets.
+    station_.winkel.antenne = WinkelLesen(bytes).antenne.value_or("");
     DateiNennen(pfad, true);
   }
 }

@@ -61,6 +61,7 @@ Meldungen AntenneGewaehlt(Station& s, const Kataloge& k, int index) {
   s.winkel.antenne = OhneBlanks(antenne.hersteller + ' ' + antenne.typ);
   s.winkel.gewinn = *wahl.gewinn;
   s.winkel.frequenz = s.werte.QRGText;
+  s.winkel.kopfGetippt = false;
   return {};
 }
 

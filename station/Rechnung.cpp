@@ -56,6 +56,7 @@ void WinkelseiteFuellen(Station& s, const Rechenergebnis& e) {
     if (seite.gewinn != s.werte.GewinnText || seite.frequenz != s.werte.QRGText) seite.dateiGelesen = false;
     seite.gewinn = s.werte.GewinnText;
     seite.frequenz = s.werte.QRGText;
+    seite.kopfGetippt = false;
   }
   if (e.AntEinPWR) seite.AntEinPWR = Formatieren(*e.AntEinPWR);
   if (e.WEIRP) seite.EIRPausRechnung = true;

@@ -136,6 +136,7 @@ struct Winkelseite {
   std::string herkunft;       ///< where a table without a file comes from
   bool dateiGelesen = false;  ///< the file holds this table or an earlier state of it
   bool bearbeitet = false;    ///< the user has changed the table since it was read or saved
+  bool kopfGetippt = false;   ///< and gain or frequency, which are not the central calculation's then
 
   bool operator==(const Winkelseite&) const = default;
 };

@@ -42,7 +42,7 @@ auto Tabelle(const Station& s) {
 /// Where the angle table stands on the disk, or that it stands nowhere.
 template <typename Seite>
 auto Verbleib(Seite& w) {
-  return std::tie(w.datei, w.herkunft, w.dateiGelesen, w.bearbeitet);
+  return std::tie(w.datei, w.herkunft, w.dateiGelesen, w.bearbeitet, w.kopfGetippt);
 }
 
 /// The state `ziel` in the surroundings of today.

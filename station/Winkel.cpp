@@ -96,13 +96,23 @@ std::string EIRPText(const Station& s, std::size_t sektor) {
 }
 
 bool WinkelUngesichert(const Station& s) {
+  const Winkelseite& w = s.winkel;
   const Daempfungen& tabelle = s.Datenblattspalten[0].Winkel;
-  const bool leer =
-      std::all_of(tabelle.begin(), tabelle.end(), [](const std::string& text) { return text.empty(); });
-  if (!s.winkel.bearbeitet || (leer && s.winkel.antenne.empty())) return false;
+  // Gain and frequency that nobody has typed here stand where they come from.
+  const std::string gewinn = w.kopfGetippt ? w.gewinn : "";
+  const std::string frequenz = w.kopfGetippt ? w.frequenz : "";
+  const auto leer = [](const std::string& text) { return text.empty(); };
+  const bool nichts = leer(w.antenne) && leer(gewinn) && leer(frequenz);
+  if (!w.bearbeitet || (nichts && std::all_of(tabelle.begin(), tabelle.end(), leer))) return false;
   for (int spalte = 1; spalte <= static_cast<int>(AnzahlSpalten); ++spalte) {
-    const bool antenne = s.winkel.antenne.empty() || s.winkel.antenne == Zelle(s, spalte, ZeileAntenne);
-    if (antenne && tabelle == s.Datenblattspalten.at(static_cast<std::size_t>(spalte)).Winkel) return false;
+    const Datenblattspalte& satz = s.Datenblattspalten.at(static_cast<std::size_t>(spalte));
+    const auto steht = [](const std::string& text, const std::string& dort) {
+      return text.empty() || text == dort;
+    };
+    if (tabelle == satz.Winkel && steht(w.antenne, Zelle(s, spalte, ZeileAntenne)) &&
+        steht(gewinn, satz.Gewinn) && steht(frequenz, satz.QRG)) {
+      return false;
+    }
   }
   return true;
 }
@@ -124,6 +134,7 @@ std::optional<float> Sektorabstand(const Station& s, std::size_t sektor, Winkelk
 Meldungen WinkelGetippt(Station& s, const Kataloge&, Winkelfeld feld, const std::string& text) {
   s.winkel.*Winkeltexte.at(static_cast<std::size_t>(feld)) = text;
   if (feld <= Winkelfeld::Frequenz) s.winkel.bearbeitet = true;
+  if (feld == Winkelfeld::Gewinn || feld == Winkelfeld::Frequenz) s.winkel.kopfGetippt = true;
   return {};
 }
 
@@ -183,7 +194,7 @@ void WinkelErsetzen(Station& s, const Daempfungen& daempfung) {
   Tabelle(s) = daempfung;
   s.winkel.ergebnis.reset();
   s.winkel.EIRPausRechnung = false;
-  s.winkel.bearbeitet = false;
+  s.winkel.bearbeitet = s.winkel.kopfGetippt = false;
 }
 
 Meldungen WinkelUebernehmen(Station& s, const Daempfungen& daempfung, const std::string& herkunft) {

@@ -213,6 +213,10 @@ TEST_F(RettungTest, EineWinkeltabelleGehtNichtVerloren) {
   WinkelGetippt(s, lauf.kataloge, Winkelfeld::Antenne, "Beam");
   s.Datenblattspalten[2].Winkel = s.Datenblattspalten[0].Winkel;
   s.Zellen[Zellenindex(2, ZeileAntenne)] = "Beam";
+  WinkelGetippt(s, lauf.kataloge, Winkelfeld::Gewinn, "11.1");
+  lauf.fragen.Erwarten("Vesk", "Die Winkeltabelle wurde geändert und nicht gespeichert.", Antwort::Nein);
+  EXPECT_FALSE(lauf.ablauf.Beenden());
+  s.Datenblattspalten[2].Gewinn = "11.1";
   EXPECT_TRUE(lauf.ablauf.Beenden()) << "a table that stands in a column is saved with it";
 }
 

@@ -188,8 +188,13 @@ TEST_F(WinkelablaufTest, WasInKeineTabellePasst) {
   EXPECT_EQ(ordner.Anzahl(), 2);
 }
 
-/// The file's character set lacks them; nothing is replaced silently.
+/// What the file's character set lacks is refused, what its format lacks is replaced: nothing silently.
 TEST_F(WinkelablaufTest, FremdeBuchstaben) {
+  s.winkel.antenne = "Yagi [2m]";
+  ablauf.Speichern();
+  EXPECT_EQ(s.winkel.antenne, "Yagi (2m)");
+  fs::remove(ordner / "Winkel.ang");
+  s.winkel.bearbeitet = true;
   s.winkel.antenne = "Łódź ΩΩ";
   fragen.Fehler(
       "Winkel.ang konnte nicht gespeichert werden.\nEine Winkeldatei kann diese Zeichen im Namen der "
