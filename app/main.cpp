@@ -21,6 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 int FensterOeffnen(int anzahl, char** argumente, const vesk::Aufruf& aufruf) {
+  vesk::KeinenBusStarten();
   vesk::Endesignal ende;
   const QApplication anwendung(anzahl, argumente);
   QApplication::setApplicationVersion(QString::fromStdString(vesk::VersionLang()));

@@ -1,3 +1,6 @@
+#include <unistd.h>
+
+#include <QByteArray>
 #include <QtGlobal>
 #include <algorithm>
 #include <array>
@@ -9,6 +12,15 @@ namespace vesk {
 
 void SchreibgrenzenAlsFehler() {
   std::signal(SIGXFSZ, SIG_IGN);
+}
+
+void KeinenBusStarten() {
+  constexpr const char* Adresse = "DBUS_SESSION_BUS_ADDRESS";
+  if (!qEnvironmentVariableIsEmpty(Adresse)) return;
+  const QByteArray laufzeit = qgetenv("XDG_RUNTIME_DIR");
+  const QByteArray ort = laufzeit.isEmpty() ? "/run/user/" + QByteArray::number(getuid()) : laufzeit;
+  // Where systemd listens for it.
+  qputenv(Adresse, "unix:path=" + ort + "/bus");
 }
 
 bool BildschirmVorhanden() {

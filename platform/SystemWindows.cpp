@@ -4,6 +4,8 @@ namespace vesk {
 
 void SchreibgrenzenAlsFehler() {}  // They are errors.
 
+void KeinenBusStarten() {}
+
 bool BildschirmVorhanden() {
   return true;
 }
