@@ -12,7 +12,9 @@
 #include "persistence/Lageplandatei.h"
 #include "persistence/Pfade.h"
 #include "persistence/UserDatei.h"
+#include "persistence/Winkeldatei.h"
 #include "station/Lageplanhandlungen.h"
+#include "station/Winkel.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,11 +22,12 @@ namespace vesk::affe {
 
 namespace {
 
-/// What a program that died had in its user's data or plan and not in their files.
+/// What a program that died had in its user's data, plan or angle table and not in their files.
 using Nachlass = std::optional<std::string>;
 
 std::string Daten(const Station& s) {
-  return UserDateiSchreiben(s) + LageplanBytes(s.lageplan);
+  const std::string winkel = WinkelUngesichert(s) ? WinkelSchreiben(WinkeldatenDerSeite(s)) : "";
+  return UserDateiSchreiben(s) + LageplanBytes(s.lageplan) + winkel;
 }
 
 /// Whether the station's own files hold all of it: a file that was only opened needs no copy.
@@ -74,7 +77,8 @@ QString EinProgramm(Zufall& zufall, Ordner& ordner, Buehne& buehne, int ereignis
       Schreiben(tod ? u"Tod"_s : u"Ende"_s);
       if (tod) {
         programm.RettungSichern();
-        if (station.UserGeaendert && !InDenDateien(station)) nachlass = Daten(station);
+        const bool daten = station.UserGeaendert && !InDenDateien(station);
+        if (daten || WinkelUngesichert(station)) nachlass = Daten(station);
         return {};
       }
       programm.Hauptfenster().close();
