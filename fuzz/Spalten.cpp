@@ -134,7 +134,7 @@ void LesenPruefen(const Station& s, const Kataloge& k, int spalte) {
   for (const Winkelblatt& blatt : WinkelblaetterDerSpalten(s)) {
     Pruefen(blatt.tabelle.sektoren.empty() || blatt.tabelle.sektoren.size() == AnzahlSektoren);
   }
-  for (const Befund& befund : PapierePruefen(s)) Pruefen(!befund.text.empty());
+  for (const Befund& befund : PapierePruefen(s, k)) Pruefen(!befund.text.empty());
   Farbensinn(s);
 }
 

@@ -69,9 +69,9 @@ Bloecke Offenes(const std::vector<Befund>& befunde) {
 
 }  // namespace
 
-Dokument Deckblatt(const Station& s, const Inhalt& inhalt, const QDate& datum) {
+Dokument Deckblatt(const Station& s, const Kataloge& k, const Inhalt& inhalt, const QDate& datum) {
   const Bloecke kopf = Kopf(s, datum);
-  const Bloecke offenes = Offenes(PapierePruefen(s));
+  const Bloecke offenes = Offenes(PapierePruefen(s, k));
   const auto seiten = [&](std::size_t eigene) {
     Bloecke bloecke = kopf;
     bloecke += Verzeichnis(inhalt, eigene);

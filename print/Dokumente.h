@@ -12,7 +12,7 @@ struct Inhaltszeile {
 using Inhalt = std::vector<Inhaltszeile>;
 
 /// Cover page. `inhalt` are the documents behind it, whose pages are counted on from its own.
-Dokument Deckblatt(const Station& s, const Inhalt& inhalt, const QDate& datum);
+Dokument Deckblatt(const Station& s, const Kataloge& k, const Inhalt& inhalt, const QDate& datum);
 /// Application; `beilagen` are the enclosures.
 Dokument Antrag(const Station& s, const Inhalt& beilagen);
 /// Data sheet with all seven columns and their options.

@@ -117,7 +117,7 @@ std::vector<Dokument> Dokumente(const Station& s, const Kataloge& k, const Papie
   }
   std::vector<Dokument> alle = Unterlagen(s, k, auftrag);
   alle.insert(alle.begin(), Antrag(s, InhaltVon(alle)));
-  alle.insert(alle.begin(), Deckblatt(s, InhaltVon(alle), auftrag.datum));
+  alle.insert(alle.begin(), Deckblatt(s, k, InhaltVon(alle), auftrag.datum));
   return alle;
 }
 

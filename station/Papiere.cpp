@@ -185,7 +185,7 @@ std::vector<int> BenutzteSpalten(const Station& s) {
   return spalten;
 }
 
-std::vector<Befund> PapierePruefen(const Station& s) {
+std::vector<Befund> PapierePruefen(const Station& s, const Kataloge& k) {
   Befunde befunde;
   BenutzerPruefen(s.benutzer, befunde);
   const std::vector<int> spalten = BenutzteSpalten(s);
@@ -193,6 +193,9 @@ std::vector<Befund> PapierePruefen(const Station& s) {
     befunde.push_back({"Datenblatt: Keine Spalte ist ausgefüllt.", InZelle{1, ZeileFrequenz}});
   for (const int spalte : spalten) {
     AngabenPruefen(s, spalte, befunde);
+    if (const auto satz = Kabelabweichung(s, k, spalte)) {
+      befunde.push_back(InSpalte(spalte, ZeileVerluste, *satz));
+    }
     FaktorPruefen(s, spalte, befunde);
     WinkelPruefen(s, spalte, befunde);
     ErgebnissePruefen(s, spalte, befunde);

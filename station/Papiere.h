@@ -83,7 +83,11 @@ struct Befund {
 };
 
 /// All that is open, in the order of the papers; nothing: they can be filed.
-std::vector<Befund> PapierePruefen(const Station& s);
+std::vector<Befund> PapierePruefen(const Station& s, const Kataloge& k);
+/// The cable that a column names gives other losses than those that were computed from it: a record knows its
+/// cable by the place in the list only, which whoever edits the catalogue changes. None: it gives them, or
+/// they are typed.
+std::optional<std::string> Kabelabweichung(const Station& s, const Kataloge& k, int spalte);
 
 /// Opens the window in which `ort` is. No column becomes the current one.
 Meldungen ZumBefund(Station& s, const Kataloge& k, const Papierort& ort);

@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "engine/Zahlen.h"
 #include "station/Optionen.h"
 #include "station/Papiere.h"
@@ -23,16 +25,16 @@ struct Kabelstand {
   Kabelfelder felder;
 };
 
-Kabelstand Nachrechnen(const Spaltenrechnung& r) {
-  const int index = Kabelindex(r.satz, r.k);
+Kabelstand Nachrechnen(const Datenblattspalte& satz, const Kataloge& k) {
+  const int index = Kabelindex(satz, k);
   Kabelstand stand{index, {}, true, {}};
-  if (index >= 0) stand.name = r.k.kabel.liste.at(static_cast<std::size_t>(index));
+  if (index >= 0) stand.name = k.kabel.liste.at(static_cast<std::size_t>(index));
   stand.eigeneWerte = stand.name != AnderesKabel;
-  stand.felder = {.QRG = r.satz.QRG,
-                  .D100 = stand.eigeneWerte ? std::string() : r.satz.D100,
-                  .KabelLaenge = r.satz.KabelLaenge,
-                  .Stecker = r.satz.Stecker};
-  KabeldaempfungRechnen(r.k.kabel, index, stand.felder);
+  stand.felder = {.QRG = satz.QRG,
+                  .D100 = stand.eigeneWerte ? std::string() : satz.D100,
+                  .KabelLaenge = satz.KabelLaenge,
+                  .Stecker = satz.Stecker};
+  KabeldaempfungRechnen(k.kabel, index, stand.felder);
   return stand;
 }
 
@@ -89,18 +91,22 @@ void Verlustzeilen(const Spaltenrechnung& r, const Kabelstand& stand, std::vecto
                                   r.werte.DaempfungText, Zahl(r.werte.DaempfungText))});
 }
 
+/// The total is that of the record's cable, and not typed.
+bool AusDemKabel(const Datenblattspalte& satz, const std::string& verluste) {
+  return !satz.D100.empty() && GleicheZahl(verluste, satz.Gesamtdaempfung);
+}
+
 /// Why the record's cable does not give the losses of the column.
-std::string Abweichung(const Spaltenrechnung& r, const Kabelstand& stand) {
+std::string Abweichung(const Datenblattspalte& satz, const std::string& verluste, const Kabelstand& stand) {
   const std::string& heute = stand.felder.Gesamtdaempfung;
-  if (r.satz.D100.empty() || !GleicheZahl(r.werte.DaempfungText, r.satz.Gesamtdaempfung)) {
-    std::string satz = "Die Kabelverluste a sind von Hand eingetragen.";
-    if (heute.empty()) return satz;
-    return satz + " Das Kabel der Spalte ergibt " + heute + " dB.";
+  if (!AusDemKabel(satz, verluste)) {
+    const std::string von = "Die Kabelverluste a sind von Hand eingetragen.";
+    return heute.empty() ? von : von + " Das Kabel der Spalte ergibt " + heute + " dB.";
   }
-  const std::string anfang = "Die Kabelverluste a sind aus " + r.satz.D100 + " dB je 100 m berechnet. ";
+  const std::string anfang = "Die Kabelverluste a sind aus " + satz.D100 + " dB je 100 m berechnet. ";
   if (stand.index < 0) return anfang + "Das Kabel steht nicht mehr im Katalog.";
-  if (heute.empty()) return anfang + "Der Katalog nennt für " + r.satz.QRG + " MHz keinen Wert.";
-  if (!GleicheZahl(stand.felder.D100, r.satz.D100)) {
+  if (heute.empty()) return anfang + "Der Katalog nennt für " + satz.QRG + " MHz keinen Wert.";
+  if (!GleicheZahl(stand.felder.D100, satz.D100)) {
     return anfang + "Der Katalog nennt für " + stand.name + " heute " + stand.felder.D100 +
            " dB: Kabel, Frequenz oder Katalog sind andere.";
   }
@@ -109,10 +115,26 @@ std::string Abweichung(const Spaltenrechnung& r, const Kabelstand& stand) {
 
 }  // namespace
 
+std::optional<std::string> Kabelabweichung(const Station& s, const Kataloge& k, int spalte) try {
+  constexpr float Rundungen = 0.02F;  // dB; of the loss per 100 m and of the total
+  const Datenblattspalte& satz = s.Datenblattspalten.at(static_cast<std::size_t>(spalte));
+  const std::string& verluste = Zelle(s, spalte, ZeileVerluste);
+  if (!Positiv(satz.KabelLaenge) || !AusDemKabel(satz, verluste)) return std::nullopt;
+  const Kabelstand stand = Nachrechnen(satz, k);
+  const std::string& heute = stand.felder.Gesamtdaempfung;
+  // Where the catalogue has no value the user types one.
+  const bool ohneWert = stand.index >= 0 && heute.empty();
+  const bool gleich = !heute.empty() && std::abs(Zahl(heute) - Zahl(verluste)) < Rundungen;
+  if (ohneWert || gleich) return std::nullopt;
+  return Abweichung(satz, verluste, stand);
+} catch (const Laufzeitfehler&) {
+  return std::nullopt;  // the text is no number, which is a finding of its own
+}
+
 Rechenabschnitt Kabelabschnitt(const Spaltenrechnung& r) {
   Rechenabschnitt abschnitt{"Kabelverluste", {}};
   try {
-    const Kabelstand stand = Nachrechnen(r);
+    const Kabelstand stand = Nachrechnen(r.satz, r.k);
     if (!Positiv(r.satz.KabelLaenge)) {
       const bool ohne = Zahl(r.werte.DaempfungText) == 0;
       abschnitt.zeilen = {{.text = ohne ? "Es sind keine Verluste angesetzt."
@@ -120,7 +142,7 @@ Rechenabschnitt Kabelabschnitt(const Spaltenrechnung& r) {
     } else if (GleicheZahl(stand.felder.Gesamtdaempfung, r.werte.DaempfungText)) {
       Verlustzeilen(r, stand, abschnitt.zeilen);
     } else {
-      abschnitt.zeilen = {{.text = Abweichung(r, stand)}};
+      abschnitt.zeilen = {{.text = Abweichung(r.satz, r.werte.DaempfungText, stand)}};
     }
   } catch (const Laufzeitfehler&) {
     abschnitt.zeilen = {{.text = "Die Kabelverluste a sind wie eingetragen; mit dem Kabel der Spalte läßt "

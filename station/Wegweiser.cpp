@@ -40,9 +40,9 @@ bool SchonImBlatt(const Station& s) {
 }
 
 /// What is left when nothing is to be calculated or copied.
-Schritt ZuDenPapieren(const Station& s) {
+Schritt ZuDenPapieren(const Station& s, const Kataloge& k) {
   if (s.UserGeaendert) return {"Datei speichern", {}, false, true};
-  const std::size_t offen = PapierePruefen(s).size();
+  const std::size_t offen = PapierePruefen(s, k).size();
   if (offen == 0) return {"Papiere drucken", PapiereZeigen};
   return {"Papiere prüfen (" + std::to_string(offen) + " offen)", PapiereZeigen};
 }
@@ -66,22 +66,22 @@ std::string NahfeldAngabe(const Ergebnis& ergebnis) {
 
 }  // namespace
 
-Schritt NaechsterSchritt(const Station& s) {
+Schritt NaechsterSchritt(const Station& s, const Kataloge& k) {
   const int spalte = s.werte.Spalte;
   if (spalte != 0) {
     if (SpalteVeraltet(s, spalte)) return {Spaltenname(spalte) + " veraltet: Rechnen", Rechnen};
-    return ZuDenPapieren(s);
+    return ZuDenPapieren(s, k);
   }
   if (!EingabenVollstaendig(s)) {
     // After the last copy the fields may be empty; then the sheet counts.
     const bool begonnen = !s.werte.QRGText.empty() || !s.werte.PWRText.empty();
-    return begonnen || BenutzteSpalten(s).empty() ? Fehlend(s) : ZuDenPapieren(s);
+    return begonnen || BenutzteSpalten(s).empty() ? Fehlend(s) : ZuDenPapieren(s, k);
   }
   if (!s.ergebnis && !SchonImBlatt(s)) return {"Berechnen: =", Rechnen};
   if (ErgebnisVeraltet(s)) return {"Ergebnis veraltet: =", Rechnen};
   if (Kopierbar(s))
     return {"In Spalte " + NaechsteFreieSpalte(s.Zellen) + " kopieren", InFreieSpalteKopieren};
-  return ZuDenPapieren(s);
+  return ZuDenPapieren(s, k);
 }
 
 std::string WarumNichtKopierbar(const Station& s) {

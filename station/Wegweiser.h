@@ -13,7 +13,7 @@ struct Schritt {
   bool zurLeistung = false;  ///< power or distance is missing, otherwise the frequency
   bool speichern = false;    ///< the file is to be saved
 };
-Schritt NaechsterSchritt(const Station& s);
+Schritt NaechsterSchritt(const Station& s, const Kataloge& k);
 
 /// Why the copy button cannot be used; empty when it can.
 std::string WarumNichtKopierbar(const Station& s);

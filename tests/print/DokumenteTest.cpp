@@ -144,7 +144,7 @@ TEST(Dokumente, DasDeckblattNenntWasOffenIst) {
   Tisch vieles = Fertig(7);
   for (int i = 1; i <= 7; ++i) vieles.Zelle(i, ZeileHoehe, "").Zelle(i, ZeileRichtung, "");
   for (const auto& [t, mindestens] : {std::pair{Fall("typisch"), 0U}, {Fall("leer"), 1U}, {vieles, 14U}}) {
-    const std::vector<Befund> befunde = PapierePruefen(t.s);
+    const std::vector<Befund> befunde = PapierePruefen(t.s, t.k);
     EXPECT_GE(befunde.size(), mindestens);
     const QString text = Geprueft(Binden(t)).front().simplified();
     EXPECT_EQ(text.contains(u"Vor dem Einreichen offen:"_s), mindestens > 0);

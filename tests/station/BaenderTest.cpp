@@ -136,11 +136,11 @@ TEST_F(EineStation, DieEigeneFrequenzGiltInIhremBand) {
 
 TEST_F(EineStation, WasKopiertIstBrauchtKeinGleich) {
   Eingeben("14");
-  EXPECT_EQ(NaechsterSchritt(s).text, "Berechnen: =");
+  EXPECT_EQ(NaechsterSchritt(s, k).text, "Berechnen: =");
   Tun(BaenderKopieren, Baenderwahl().set(4));
-  EXPECT_EQ(NaechsterSchritt(s).text, "Datei speichern");
+  EXPECT_EQ(NaechsterSchritt(s, k).text, "Datei speichern");
   Tippen(PWR, "50").Verlassen();
-  EXPECT_EQ(NaechsterSchritt(s).text, "Berechnen: =");
+  EXPECT_EQ(NaechsterSchritt(s, k).text, "Berechnen: =");
 }
 
 TEST_F(EineStation, FehlenderGrenzwertWirdBegruendet) {

@@ -392,7 +392,7 @@ TEST(Lageplan, JedesOffeneWirdGenannt) {
     const auto befunde = LageplanPruefen(t.s);
     ASSERT_FALSE(befunde.empty()) << fall.text;
     EXPECT_EQ(befunde.front().text, fall.text);
-    EXPECT_EQ(PapierePruefen(t.s).back().text, "Lageplan: " + befunde.back().text);
+    EXPECT_EQ(PapierePruefen(t.s, t.k).back().text, "Lageplan: " + befunde.back().text);
   }
 }
 

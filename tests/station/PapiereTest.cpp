@@ -24,8 +24,8 @@ struct Antragsteller : Tisch {
 };
 
 /// The text that is open, and its place.
-void Erwarten(const Station& s, const std::string& texte, const Papierort& ort) {
-  const std::vector<Befund> befunde = PapierePruefen(s);
+void Erwarten(const Station& s, const Kataloge& k, const std::string& texte, const Papierort& ort) {
+  const std::vector<Befund> befunde = PapierePruefen(s, k);
   std::string alle;
   for (const Befund& befund : befunde) alle += (alle.empty() ? "" : "\n") + befund.text;
   EXPECT_EQ(alle, texte);
@@ -36,7 +36,7 @@ void Erwarten(const Station& s, const std::string& texte, const Papierort& ort) 
 TEST(Papiere, JedesOffeneWirdGenannt) {
   Antragsteller fertig;
   fertig.Aendern(ZeileFrequenz, "145");  // no pacemaker limit, no distance
-  EXPECT_EQ(PapierePruefen(fertig.s), std::vector<Befund>());
+  EXPECT_EQ(PapierePruefen(fertig.s, fertig.k), std::vector<Befund>());
   for (const Tabellenzeile& fall : Tabelle("station/Papiere.csv")) {
     Antragsteller a;
     const auto nummer = std::size_t(fall.Zahl("nummer"));
@@ -47,7 +47,7 @@ TEST(Papiere, JedesOffeneWirdGenannt) {
     Papierort ort = ImWinkelblatt{};
     if (fall["ort"] == "Feld") ort = BeimBenutzer{std::size_t(fall.Zahl("stelle"))};
     if (fall["ort"] == "Zelle") ort = InZelle{1, Zeile(fall.Zahl("stelle"))};
-    Erwarten(a.s, Ersetzt(fall["befund"], "|", ";"), ort);
+    Erwarten(a.s, a.k, Ersetzt(fall["befund"], "|", ";"), ort);
 
     const Station vorher = a.s;
     a.Tun(ZumBefund, ort);
@@ -62,7 +62,7 @@ struct Offen : testing::Test, Antragsteller {};
 
 TEST_F(Offen, LeeresBlatt) {
   s.Zellen = {};
-  Erwarten(s, "Datenblatt: Keine Spalte ist ausgefüllt.", InZelle{1, ZeileFrequenz});
+  Erwarten(s, k, "Datenblatt: Keine Spalte ist ausgefüllt.", InZelle{1, ZeileFrequenz});
 }
 
 TEST_F(Offen, OhneFrequenzUndLeistungFehltKeinAbstand) {
@@ -71,21 +71,22 @@ TEST_F(Offen, OhneFrequenzUndLeistungFehltKeinAbstand) {
       .Zelle(1, ZeileLeistung, "viel")
       .Tun(ZelleGeklickt, 1);
   Tun(SpalteRechnen);
-  Erwarten(s, "Spalte A: Die Frequenz fehlt.\nSpalte A: Die Sendeleistung muß eine Zahl über 0 sein.",
+  Erwarten(s, k, "Spalte A: Die Frequenz fehlt.\nSpalte A: Die Sendeleistung muß eine Zahl über 0 sein.",
            InZelle{1, ZeileFrequenz});
 }
 
 TEST_F(Offen, Faktor) {
   Tun(ZelleGeklickt, 1).Tun(ZyklusGeklickt, 2);
   Erwarten(
-      s, "Spalte A: Gerechnet ist mit dem Faktor 0.50; er darf beim Funkbetrieb nicht überschritten werden.",
+      s, k,
+      "Spalte A: Gerechnet ist mit dem Faktor 0.50; er darf beim Funkbetrieb nicht überschritten werden.",
       InZelle{1, ZeileBetriebsarten});
 }
 
 TEST_F(Offen, NichtBerechenbar) {
   Zelle(1, ZeileWinkel, "0").Zelle(1, ZeileFrequenz, "0.002");
   for (const Zeile zeile : {ZeileOhneHSM, ZeileHSM306, ZeileHSMvde}) Zelle(1, zeile, "");
-  Erwarten(s, "Spalte A: Die Sicherheitsabstände lassen sich nicht berechnen.", InZelle{1, ZeileOhneHSM});
+  Erwarten(s, k, "Spalte A: Die Sicherheitsabstände lassen sich nicht berechnen.", InZelle{1, ZeileOhneHSM});
 }
 
 const std::string ImNahfeld =
@@ -96,20 +97,40 @@ TEST_F(Offen, NahfeldDerGenauenFrequenz) {
   Tun(AFuUmschalten).Zelle(1, ZeileFrequenz, "29.5");
   Aendern(ZeileLeistung, "20");
   Tun(AFuUmschalten);
-  Erwarten(s, Ersetzt(ImNahfeld, "1.70", "1.62"), InZelle{1, ZeileOhneHSM});
+  Erwarten(s, k, Ersetzt(ImNahfeld, "1.70", "1.62"), InZelle{1, ZeileOhneHSM});
 }
 
 TEST_F(Offen, RueckwaertsGerechneteSpalte) {
   Tun(DatenblattLeeren).Tun(ModusGeklickt).Eingeben("28", "0.3").Rechnen().Kopieren();
   Beschreiben();
-  Erwarten(s, "Spalte A: Die Sicherheitsabstände HSM 306 und HSM VDE fehlen.\n" + ImNahfeld,
+  Erwarten(s, k, "Spalte A: Die Sicherheitsabstände HSM 306 und HSM VDE fehlen.\n" + ImNahfeld,
            InZelle{1, ZeileHSM306});
+}
+
+/// A record knows its cable by the place in the list, which whoever edits the file changes.
+TEST_F(Offen, EinAnderesKabelAnDerStelle) {
+  Tun(DatenblattLeeren).Eingeben("14.2").Kabel("RG213", "15").Rechnen().Kopieren();
+  Beschreiben();
+  EXPECT_EQ(Kabelabweichung(s, k, 1), std::nullopt);
+  std::swap(k.kabel.kabel[0], k.kabel.kabel[1]);
+  std::swap(k.kabel.liste[0], k.kabel.liste[1]);
+  const std::string anfang = "Die Kabelverluste a sind aus 2.23 dB je 100 m berechnet. ";
+  EXPECT_EQ(Kabelabweichung(s, k, 1),
+            anfang + "Der Katalog nennt für RG58 heute 4.16 dB: Kabel, Frequenz oder Katalog sind andere.");
+  const std::vector<Befund> befunde = PapierePruefen(s, k);
+  EXPECT_TRUE(std::any_of(befunde.begin(), befunde.end(), [](const Befund& befund) {
+    return befund.ort == Papierort(InZelle{1, ZeileVerluste});
+  }));
+  s.Datenblattspalten[1].KabelIndex = "-1";
+  EXPECT_EQ(Kabelabweichung(s, k, 1), anfang + "Das Kabel steht nicht mehr im Katalog.");
+  Zelle(1, ZeileVerluste, "3");
+  EXPECT_EQ(Kabelabweichung(s, k, 1), std::nullopt) << "typed";
 }
 
 TEST(Papiere, WinkelblattEinerSpalteHatIhreAbstaende) {
   for (const bool exakt : {false, true}) {
     Antragsteller a(exakt);
-    EXPECT_EQ(PapierePruefen(a.s), std::vector<Befund>());
+    EXPECT_EQ(PapierePruefen(a.s, a.k), std::vector<Befund>());
     ASSERT_EQ(WinkelblaetterDerSpalten(a.s).size(), 1);
     const Winkelblatt blatt = WinkelblaetterDerSpalten(a.s).front();
     EXPECT_EQ(blatt.bezug + blatt.frequenz + blatt.AntEinPWR, "Spalte A28595.75");

@@ -98,8 +98,8 @@ TEST_F(Rueckgaengig, EineZurueckgeholteWinkeltabelleIstNichtGespeichert) {
 TEST(Wegweiser, NenntDenNaechstenSchrittUndTutIhn) {
   Tisch t;
   std::string wege;
-  const auto weg = [&] { wege += NaechsterSchritt(t.s).text + "; "; };
-  const auto tun = [&] { t.Tun(NaechsterSchritt(t.s).tun); };
+  const auto weg = [&] { wege += NaechsterSchritt(t.s, t.k).text + "; "; };
+  const auto tun = [&] { t.Tun(NaechsterSchritt(t.s, t.k).tun); };
   weg();
   t.Tippen(Eingabefeld::QRG, "14.2").Verlassen();
   weg();
@@ -112,16 +112,16 @@ TEST(Wegweiser, NenntDenNaechstenSchrittUndTutIhn) {
   tun(), weg();
   EXPECT_EQ(WarumNichtKopierbar(t.s), "");
   tun(), weg();
-  EXPECT_TRUE(NaechsterSchritt(t.s).speichern);
+  EXPECT_TRUE(NaechsterSchritt(t.s, t.k).speichern);
   t.s.UserGeaendert = false;
   weg();
   EXPECT_EQ(wege,
             "Frequenz fehlt; Leistung fehlt; Berechnen: =; In Spalte A kopieren; Ergebnis veraltet: =; "
             "In Spalte A kopieren; Datei speichern; Papiere prüfen (" +
-                std::to_string(PapierePruefen(t.s).size()) + " offen); ");
+                std::to_string(PapierePruefen(t.s, t.k).size()) + " offen); ");
   EXPECT_EQ(t.Blatt(1, ZeileLeistung), "50");
   t.Tun(KopfGeklickt, 1).Zelle(1, ZeileLeistung, "60");
-  EXPECT_EQ(NaechsterSchritt(t.s).text, "Spalte A veraltet: Rechnen");
+  EXPECT_EQ(NaechsterSchritt(t.s, t.k).text, "Spalte A veraltet: Rechnen");
 }
 
 TEST(Wegweiser, EineTasteRechnetUndKopiert) {

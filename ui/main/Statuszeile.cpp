@@ -111,7 +111,7 @@ void Statuszeile::Zeigen(const Station& s, const Kataloge& k) {
                                (text.empty() ? angabe.leer.toString() : QString::fromStdString(text)),
                            s.einstellungen.ToolTips);
   }
-  schritt_ = NaechsterSchritt(s);
+  schritt_ = NaechsterSchritt(s, k);
   Schreiben(*cmdWeiter, schritt_.text);
 }
 

@@ -115,7 +115,7 @@ void frmVorschau::WahlZeigen(const Station& s) {
 }
 
 void frmVorschau::BefundeZeigen(const Station& s) {
-  befunde_ = PapierePruefen(s);
+  befunde_ = PapierePruefen(s, kataloge_);
   lstOffen->clear();
   for (const Befund& befund : befunde_) lstOffen->addItem(QString::fromStdString(befund.text));
   const bool offen = !befunde_.empty();
