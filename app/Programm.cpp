@@ -289,7 +289,7 @@ std::optional<fs::path> Programm::ZumOeffnen(const Dateiwahl& wahl) {
 }
 
 std::optional<fs::path> Programm::ZumSpeichern(const Dateiwahl& wahl) {
-  const auto pfad = Gewaehlt(plattform_.dialoge.Speichern(AlsDialog(wahl)));
+  auto pfad = Gewaehlt(plattform_.dialoge.Speichern(AlsDialog(wahl)));
   const auto grund = pfad ? dateien_.WarumVergeben(*pfad, wahl.endung) : std::nullopt;
   if (!grund) return pfad;
   Fragen(Fehlermeldung(*grund));
