@@ -109,8 +109,9 @@ Vergleich Vergleichen(const fs::path& kopie, const std::string& text, const fs::
 bool Hinfaellig(Rettung::Fund& fund, std::vector<fs::path>& beiseite) {
   Rettung::Inhalt& inhalt = fund.inhalt;
   Vergleich user = Vergleich::Gesichert;
-  const bool ohneUser = inhalt.user.empty() && !(inhalt.winkel.empty() && inhalt.plan.empty());
-  if (!ohneUser) {
+  const bool ohneAnderes = inhalt.winkel.empty() && inhalt.plan.empty();
+  const bool gesichert = inhalt.user.empty() && !fund.datei.empty() && !ohneAnderes;
+  if (!gesichert) {
     user = Vergleichen(fund.pfad, inhalt.user, fund.datei, grenzen::UserDatei, IstUserDatei, beiseite);
     if (user == Vergleich::Gesichert) inhalt.user.clear();
   }
