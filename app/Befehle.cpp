@@ -23,6 +23,7 @@
 #include "ui/options/frmOptions.h"
 #include "ui/plan/frmLageplan.h"
 #include "ui/power/frmLstg.h"
+#include "ui/preview/frmVorschau.h"
 #include "ui/user/frmUser.h"
 
 using namespace Qt::StringLiterals;
@@ -139,7 +140,7 @@ void Programm::KatalogeErneuern() {
       std::exchange(kataloge_, KatalogeLesen(PfadAusUtf8(station_.ProgrammVerzeichnis), meldungen, ersatz_));
   Anhaengen(meldungen, KatalogeGewechselt(station_, vorher, kataloge_));
   verlauf_.Angleichen([&](Station& s) { KatalogeGewechselt(s, vorher, kataloge_); });
-  // Their lists are those of the former catalogues.
+  // What they show is from the former catalogues.
   const auto ersetzen = [this](auto& fenster, auto anlegen) {
     if (!fenster) return;
     const auto karten = [&] { return fenster->template findChild<QTabWidget*>(); };
@@ -150,6 +151,7 @@ void Programm::KatalogeErneuern() {
     if (karten() != nullptr) karten()->setCurrentIndex(karte);
   };
   ersetzen(optionen_, &Programm::Optionen);
+  ersetzen(vorschau_, &Programm::Vorschau);
   ersetzen(baender_, &Programm::Baender);
   ersetzen(diagramme_, &Programm::Diagramme);
   Zeigen();

@@ -1,6 +1,7 @@
 // The short ways: keys of all windows, undo, files that are dropped or used again, windows that come back.
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QUrl>
 #include <fstream>
 
@@ -99,7 +100,11 @@ TEST_F(Wege, FallengelasseneDateien) {
   buehne.boxen.Erwarten("Katalog übernehmen", "Kabel-alt.txt", Antwort::Ja);
   const QRect lage(30, 70, 760, 520);
   Fenster(u"frmOptions"_s).setGeometry(lage);
+  Menue(u"mnuPapiere"_s);
+  const QPointer<QWidget> vorschau = &Fenster(u"frmVorschau"_s);
   Fallenlassen(anderswo.filePath(u"KABEL.TXT"_s), feld);
+  EXPECT_TRUE(!vorschau && Sichtbar(u"frmVorschau"_s)) << "its papers tell of cables";
+  Fenster(u"frmVorschau"_s).close();
   EXPECT_EQ(Fenster(u"frmOptions"_s).geometry(), lage);
   EXPECT_EQ(Ding<QTabWidget>(u"SSTab1"_s, u"frmOptions"_s).currentIndex(), 3);
   EXPECT_TRUE(QFile::exists(filePath(u"Kabel-alt.txt"_s)) && QFileInfo(kabel).size() > 0);
